@@ -1,0 +1,4 @@
+target_sources(korvex PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/line2d.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/line3d.cpp
+)

@@ -1,0 +1,3 @@
+korvex_test_sources(geometry
+  line_test.cpp
+)

@@ -1,0 +1,2 @@
+korvex_test_sources(transform
+)
