@@ -20,5 +20,6 @@
 #include "korvex/sections/cls_transf.hpp"
 #include "korvex/sections/cls_pick.hpp"
 #include "korvex/sections/cls_calc.hpp"
+#include "korvex/sections/cls_frame.hpp"
 
 #endif // KORVEX_CLASSES_HPP
