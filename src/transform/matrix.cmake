@@ -1,2 +1,7 @@
 target_sources(korvex PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/matrix2d.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/shear.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/matrix3d.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/rotate3d.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/apply.cpp
 )
