@@ -219,8 +219,9 @@ KORVEX_API int mathIntLine(const double a1[3], const double b1[3], const double 
  * Returns 1 if the lines are coplanar and the plane is determined (crossing
  * lines: p is the intersection on line 1; distinct parallel lines: p = l1);
  * 2 if they are coplanar but the plane is not determined (coincident lines),
- * p and n untouched; 0 if they are skew or degenerate, p and n untouched.
- * Parallel lines closer than 1e-10 count as coincident. */
+ * p and n untouched, also for parallel lines whose plane cannot be formed
+ * (their step or its cross product with d1 shorter than 1e-10); 0 if they
+ * are skew or degenerate, p and n untouched. */
 KORVEX_API int mathIsLinCoplanar(const double l1[3], const double d1[3], const double l2[3], const double d2[3],
                                  double distTol, double paraTol, double p[3], double n[3]);
 
