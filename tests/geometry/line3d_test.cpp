@@ -1,0 +1,195 @@
+#include <korvex/capi.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+
+void expectPoint(const double p[3], double x, double y, double z)
+{
+    EXPECT_NEAR(p[0], x, 1e-12);
+    EXPECT_NEAR(p[1], y, 1e-12);
+    EXPECT_NEAR(p[2], z, 1e-12);
+}
+
+} // namespace
+
+TEST(Line3D, DistancesAndStrictOnLineTest)
+{
+    const double a[3] = {1.0, 1.0, 1.0};
+    const double b[3] = {1.0, 1.0, 5.0};
+    const double p[3] = {4.0, 5.0, -7.0};
+    EXPECT_NEAR(mathDistPntLinEx(p, a, b), 5.0, 1e-12);
+    const double d[3] = {0.0, 0.0, 1.0};
+    EXPECT_NEAR(mathDistPntLin(p, a, d), 5.0, 1e-12);
+    // Coincident points: distance to a.
+    EXPECT_NEAR(mathDistPntLinEx(p, a, a), std::sqrt(9.0 + 16.0 + 64.0), 1e-12);
+
+    const double onEdge[3] = {1.25, 1.0, 3.0};
+    EXPECT_EQ(mathChkPntLin(onEdge, a, b, 0.25), 0);
+    EXPECT_EQ(mathChkPntLin(onEdge, a, b, 0.2500001), 1);
+}
+
+TEST(Line3D, DirectionLengthFailureCodes)
+{
+    const double a[3] = {1.0, 2.0, 3.0};
+    const double b[3] = {1.0, 5.0, 7.0};
+    double d[3];
+    double len = 0.0;
+    EXPECT_EQ(mathGetLinDirLen(a, b, 1e-10, d, &len), 1);
+    EXPECT_DOUBLE_EQ(len, 5.0);
+    expectPoint(d, 0.0, 0.6, 0.8);
+    EXPECT_EQ(mathGetLinDirLen(a, b, 6.0, d, &len), -4);
+    expectPoint(d, 0.0, 3.0, 4.0);
+    // Coincident points: -4 in space, 0 in the plane.
+    EXPECT_EQ(mathGetLinDirLen(a, a, 1e-10, d, &len), -4);
+    EXPECT_EQ(len, 0.0);
+    double d2[2];
+    EXPECT_EQ(mathGetLinDirLen2D(a, a, 1e-10, d2, &len), 0);
+}
+
+TEST(Line3D, ProjectionsWithParameter)
+{
+    const double a[3] = {1.0, 0.0, 0.0};
+    const double b[3] = {1.0, 4.0, 0.0};
+    double q[3];
+    double t = -1.0;
+    const double p[3] = {7.0, 3.0, 2.0};
+    mathPrjPntLineEx(p, a, b, q, &t);
+    expectPoint(q, 1.0, 3.0, 0.0);
+    EXPECT_DOUBLE_EQ(t, 0.75);
+    mathPrjPntLineEx(p, a, a, q, &t);
+    expectPoint(q, 1.0, 0.0, 0.0);
+    EXPECT_EQ(t, 0.0);
+
+    double pp[3] = {7.0, 3.0, 2.0};
+    EXPECT_EQ(mathPrjPntLinEx(pp, a, b, pp), 1);
+    expectPoint(pp, 1.0, 3.0, 0.0);
+    EXPECT_EQ(mathPrjPntLinEx(p, a, a, q), 0);
+    expectPoint(q, 1.0, 0.0, 0.0);
+}
+
+TEST(Line3D, ParameterAxisChoice)
+{
+    const double l[3] = {1.0, 1.0, 1.0};
+    const double d[3] = {0.48, 0.6, 0.64};
+    const double p[3] = {1.0 + 2.0 * 0.48, 1.0 + 2.0 * 0.6, 1.0 + 2.0 * 0.64};
+    EXPECT_NEAR(mathCalPntLinPara(p, l, d), 2.0, 1e-12);
+    const double shortD[3] = {0.1, 0.1, 0.1};
+    EXPECT_EQ(mathCalPntLinPara(p, l, shortD), 0.0);
+
+    const double o[3] = {0.0, 0.0, 0.0};
+    const double b[3] = {4.0, 2.0, 0.0};
+    const double half[3] = {2.0, 1.0, 0.0};
+    EXPECT_DOUBLE_EQ(mathCalPntLinSegPara(half, o, b), 0.5);
+    // A negative x difference gives way to y even along a pure x line, and
+    // the zero y difference then yields 0.
+    const double back[3] = {-4.0, 0.0, 0.0};
+    const double pb[3] = {-2.0, 0.0, 0.0};
+    EXPECT_EQ(mathCalPntLinSegPara(pb, o, back), 0.0);
+    // x (-4) gives way to y (-2), which gives way to z (2); the point is off
+    // the line so that only the z axis yields 0.75.
+    const double c[3] = {-4.0, -2.0, 2.0};
+    const double pc[3] = {-1.0, -0.5, 1.5};
+    EXPECT_DOUBLE_EQ(mathCalPntLinSegPara(pc, o, c), 0.75);
+}
+
+TEST(LineIntersect3D, CrossingSkewParallel)
+{
+    const double l1[3] = {0.0, 0.0, 0.0};
+    const double d1[3] = {1.0, 0.0, 0.0};
+    const double l2[3] = {3.0, -2.0, 1.0};
+    const double d2[3] = {0.0, 1.0, 0.0};
+    double c1[3], c2[3];
+    // Skew at distance 1: the feet of the common perpendicular.
+    EXPECT_EQ(mathIntLin(l1, d1, l2, d2, 0.002, 1e-6, c1, c2), 5);
+    expectPoint(c1, 3.0, 0.0, 0.0);
+    expectPoint(c2, 3.0, 0.0, 1.0);
+    EXPECT_EQ(mathIntLin(l1, d1, l2, d2, 1.0000001, 1e-6, c1, c2), 1);
+
+    // Parallel lines: both feet of the midpoint are written either way.
+    const double l3[3] = {4.0, 0.0, 0.001};
+    EXPECT_EQ(mathIntLin(l1, d1, l3, d1, 0.002, 1e-6, c1, c2), 4);
+    expectPoint(c1, 2.0, 0.0, 0.0);
+    expectPoint(c2, 2.0, 0.0, 0.001);
+    EXPECT_EQ(mathIntLin(l1, d1, l3, d1, 0.001, 1e-6, c1, c2), 2);
+
+    // Two-point form: degenerate line, and outputs over the inputs.
+    double a1[3] = {0.0, 0.0, 0.0};
+    double b1[3] = {5.0, 0.0, 0.0};
+    const double a2[3] = {3.0, -2.0, 0.0};
+    const double b2[3] = {3.0, 2.0, 0.0};
+    EXPECT_EQ(mathIntLinEx(a1, b1, a2, a2, 1e-6, 1e-6, c1, c2), 800);
+    EXPECT_EQ(mathIntLinEx(a1, b1, a2, b2, 1e-6, 1e-6, a1, b1), 1);
+    expectPoint(a1, 3.0, 0.0, 0.0);
+    expectPoint(b1, 3.0, 0.0, 0.0);
+}
+
+TEST(LineIntersect3D, RawDirectionsWithParameters)
+{
+    const double a1[3] = {0.0, 0.0, 0.0};
+    const double b1[3] = {4.0, 0.0, 0.0};
+    const double a2[3] = {2.0, -1.0, 0.5};
+    const double b2[3] = {2.0, 3.0, 0.5};
+    double c1[3], c2[3];
+    double t1 = 0.0, t2 = 0.0, dist = 0.0;
+    EXPECT_EQ(mathIntLine(a1, b1, a2, b2, 0.1, 1e-6, c1, c2, &t1, &t2, &dist), 5);
+    EXPECT_DOUBLE_EQ(t1, 0.5);
+    EXPECT_DOUBLE_EQ(t2, 0.25);
+    EXPECT_DOUBLE_EQ(dist, 0.5);
+    expectPoint(c2, 2.0, 0.0, 0.5);
+    EXPECT_EQ(mathIntLine(a1, b1, a2, b2, 0.6, 1e-6, c1, c2, &t1, &t2, &dist), 1);
+
+    // Parallel lines of length 2: the raw directions overshoot the feet,
+    // and the parameters stay untouched.
+    const double a3[3] = {1.0, 1.0, 0.0};
+    const double b3[3] = {3.0, 1.0, 0.0};
+    const double b4[3] = {2.0, 0.0, 0.0};
+    t1 = t2 = 42.0;
+    EXPECT_EQ(mathIntLine(a1, b4, a3, b3, 0.01, 1e-6, c1, c2, &t1, &t2, &dist), 2);
+    expectPoint(c1, 2.0, 0.0, 0.0);
+    expectPoint(c2, -1.0, 1.0, 0.0);
+    EXPECT_DOUBLE_EQ(dist, std::sqrt(10.0));
+    EXPECT_EQ(t1, 42.0);
+    EXPECT_EQ(t2, 42.0);
+
+    // The raw cross product |(4,0,0) x (0,4,0)| = 16 meets paraTol 16 (not
+    // parallel) but not 16.0001.
+    const double a5[3] = {2.0, -2.0, 0.0};
+    const double b5[3] = {2.0, 2.0, 0.0};
+    EXPECT_EQ(mathIntLine(a1, b1, a5, b5, 0.01, 16.0, c1, c2, &t1, &t2, &dist), 1);
+    EXPECT_EQ(mathIntLine(a1, b1, a5, b5, 0.01, 16.0001, c1, c2, &t1, &t2, &dist), 2);
+
+    dist = 42.0;
+    EXPECT_EQ(mathIntLine(a1, a1, a2, b2, 0.01, 1e-6, c1, c2, &t1, &t2, &dist), 800);
+    EXPECT_EQ(dist, 42.0);
+}
+
+TEST(LineIntersect3D, CommonPlane)
+{
+    const double l1[3] = {0.0, 0.0, 2.0};
+    const double d1[3] = {1.0, 0.0, 0.0};
+    const double l2[3] = {3.0, -2.0, 2.0};
+    const double d2[3] = {0.0, 1.0, 0.0};
+    double p[3] = {9.0, 9.0, 9.0};
+    double n[3] = {9.0, 9.0, 9.0};
+    EXPECT_EQ(mathIsLinCoplanar(l1, d1, l2, d2, 1e-6, 1e-6, p, n), 1);
+    expectPoint(p, 3.0, 0.0, 2.0);
+    expectPoint(n, 0.0, 0.0, 1.0);
+
+    // Distinct parallel lines: the plane through l1 holding both.
+    const double l3[3] = {5.0, 0.0, 5.0};
+    EXPECT_EQ(mathIsLinCoplanar(l1, d1, l3, d1, 1e-6, 1e-6, p, n), 1);
+    expectPoint(p, 0.0, 0.0, 2.0);
+    expectPoint(n, 0.0, -1.0, 0.0);
+
+    // Coincident lines leave the plane open; skew lines have none.
+    p[0] = 9.0;
+    const double l4[3] = {-7.0, 0.0, 2.0};
+    EXPECT_EQ(mathIsLinCoplanar(l1, d1, l4, d1, 1e-6, 1e-6, p, n), 2);
+    EXPECT_EQ(p[0], 9.0);
+    const double l5[3] = {3.0, -2.0, 3.0};
+    EXPECT_EQ(mathIsLinCoplanar(l1, d1, l5, d2, 1e-6, 1e-6, p, n), 0);
+    EXPECT_EQ(p[0], 9.0);
+}

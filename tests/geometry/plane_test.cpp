@@ -1,0 +1,137 @@
+#include <korvex/capi.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+void expectPoint(const double p[3], double x, double y, double z)
+{
+    EXPECT_NEAR(p[0], x, 1e-12);
+    EXPECT_NEAR(p[1], y, 1e-12);
+    EXPECT_NEAR(p[2], z, 1e-12);
+}
+
+const double kOrigin[3] = {0.0, 0.0, 0.0};
+const double kUp[3] = {0.0, 0.0, 1.0};
+
+} // namespace
+
+TEST(Plane, DistancesAndProjections)
+{
+    const double p0[3] = {1.0, 2.0, 3.0};
+    const double below[3] = {5.0, 5.0, 1.0};
+    EXPECT_DOUBLE_EQ(mathDistPntPlnSide(below, p0, kUp), -2.0);
+    EXPECT_DOUBLE_EQ(mathDistPntPln(below, p0, kUp), 2.0);
+
+    double q[3] = {5.0, 5.0, 1.0};
+    mathPrjPntPln(q, p0, kUp, q);
+    expectPoint(q, 5.0, 5.0, 3.0);
+    double v[3] = {1.0, 2.0, 3.0};
+    mathPrjVecPln(v, kUp, v);
+    expectPoint(v, 1.0, 2.0, 0.0);
+}
+
+TEST(Plane, LineInPlaneUsesFixedReach)
+{
+    // The far test point sits at parameter 100: a slope of 1e-3 lifts it
+    // by 0.1, whatever the tolerance at the start point.
+    const double l[3] = {0.0, 0.0, 0.0};
+    const double d[3] = {1.0, 0.0, 0.001};
+    EXPECT_EQ(mathIsLinOnPln(l, d, kOrigin, kUp, 0.05), 0);
+    EXPECT_EQ(mathIsLinOnPln(l, d, kOrigin, kUp, 0.2), 1);
+    const double high[3] = {0.0, 0.0, 0.2};
+    const double flat[3] = {1.0, 0.0, 0.0};
+    EXPECT_EQ(mathIsLinOnPln(high, flat, kOrigin, kUp, 0.2), 0);
+}
+
+TEST(Plane, LineIntersection)
+{
+    const double l[3] = {1.0, 1.0, 4.0};
+    const double d[3] = {0.0, 0.6, -0.8};
+    double x[3];
+    EXPECT_EQ(mathIntLinPln(l, d, kOrigin, kUp, 1e-6, 1e-6, x), 1);
+    expectPoint(x, 1.0, 4.0, 0.0);
+
+    // Parallel: x is the line's own point; in the plane (4) or off it (2).
+    const double flat[3] = {1.0, 0.0, 0.0};
+    const double inPlane[3] = {7.0, 8.0, 0.0005};
+    EXPECT_EQ(mathIntLinPln(inPlane, flat, kOrigin, kUp, 0.001, 1e-6, x), 4);
+    expectPoint(x, 7.0, 8.0, 0.0005);
+    EXPECT_EQ(mathIntLinPln(l, flat, kOrigin, kUp, 0.001, 1e-6, x), 2);
+    expectPoint(x, 1.0, 1.0, 4.0);
+}
+
+TEST(Plane, SegmentIntersectionCodes)
+{
+    const double tol = 0.01;
+    double x1[3], x2[3];
+    double t1 = -1.0, t2 = -1.0;
+
+    const double a[3] = {0.0, 0.0, -1.0};
+    const double b[3] = {0.0, 0.0, 3.0};
+    EXPECT_EQ(mathIntSegmPln(a, b, kOrigin, kUp, tol, x1, x2, &t1, &t2), 1);
+    expectPoint(x1, 0.0, 0.0, 0.0);
+    EXPECT_DOUBLE_EQ(t1, 0.25);
+
+    // Both ends within tol: the whole segment, parameters 0 and 1.
+    const double c[3] = {1.0, 0.0, 0.005};
+    const double e[3] = {2.0, 0.0, -0.005};
+    EXPECT_EQ(mathIntSegmPln(c, e, kOrigin, kUp, tol, x1, x2, &t1, &t2), 4);
+    expectPoint(x1, 1.0, 0.0, 0.005);
+    expectPoint(x2, 2.0, 0.0, -0.005);
+    EXPECT_EQ(t1, 0.0);
+    EXPECT_EQ(t2, 1.0);
+
+    // One end within tol: that end, whichever side the other end is on.
+    t2 = 42.0;
+    EXPECT_EQ(mathIntSegmPln(b, c, kOrigin, kUp, tol, x1, x2, &t1, &t2), 1);
+    expectPoint(x1, 1.0, 0.0, 0.005);
+    EXPECT_EQ(t1, 1.0);
+    EXPECT_EQ(mathIntSegmPln(e, a, kOrigin, kUp, tol, x1, x2, &t1, &t2), 1);
+    expectPoint(x1, 2.0, 0.0, -0.005);
+    EXPECT_EQ(t1, 0.0);
+    EXPECT_EQ(t2, 42.0);
+
+    // An end exactly at tol is not on the plane; both above: no contact.
+    const double atTol[3] = {0.0, 0.0, 0.25};
+    x1[0] = 42.0;
+    EXPECT_EQ(mathIntSegmPln(atTol, b, kOrigin, kUp, 0.25, x1, x2, &t1, &t2), 0);
+    EXPECT_EQ(x1[0], 42.0);
+
+    // The output may replace an end point.
+    double aa[3] = {0.0, 0.0, -1.0};
+    EXPECT_EQ(mathIntSegmPln(aa, b, kOrigin, kUp, tol, aa, x2, &t1, &t2), 1);
+    expectPoint(aa, 0.0, 0.0, 0.0);
+}
+
+TEST(Plane, TwoPlanes)
+{
+    const double p1[3] = {0.0, 0.0, 2.0};
+    const double n2[3] = {1.0, 0.0, 0.0};
+    const double p2[3] = {3.0, 5.0, 7.0};
+    double x[3] = {42.0, 42.0, 42.0};
+    double d[3];
+    // Dx = 0, so the point is taken on y = 0.
+    EXPECT_EQ(mathIntPln(p1, kUp, p2, n2, 1e-6, 1e-6, x, d), 1);
+    expectPoint(d, 0.0, 1.0, 0.0);
+    expectPoint(x, 3.0, 0.0, 2.0);
+
+    // A direction crossing x = 0 steeply puts the point there.
+    const double n3[3] = {0.0, 0.6, 0.8};
+    EXPECT_EQ(mathIntPln(p1, kUp, kOrigin, n3, 1e-6, 1e-6, x, d), 1);
+    expectPoint(d, -1.0, 0.0, 0.0);
+    expectPoint(x, 0.0, -8.0 / 3.0, 2.0);
+
+    // Parallel planes: x untouched, d the short raw cross product.
+    const double tilt[3] = {0.0, 1e-9, 1.0};
+    x[0] = 42.0;
+    EXPECT_EQ(mathIntPln(p1, kUp, kOrigin, tilt, 1e-6, 1e-6, x, d), 2);
+    EXPECT_EQ(x[0], 42.0);
+    EXPECT_NEAR(d[0], -1e-9, 1e-24);
+    const double p4[3] = {9.0, 9.0, 2.0000005};
+    EXPECT_EQ(mathIntPln(p1, kUp, p4, tilt, 1e-6, 1e-6, x, d), 4);
+
+    EXPECT_EQ(mathIsPlnOverlap(p1, kUp, p4, tilt, 1e-6, 1e-6), 1);
+    EXPECT_EQ(mathIsPlnOverlap(p1, kUp, p4, tilt, 4e-7, 1e-6), 0);
+    EXPECT_EQ(mathIsPlnOverlap(p1, kUp, p4, tilt, 1e-6, 1e-9), 0);
+}
