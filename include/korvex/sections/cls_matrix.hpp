@@ -150,7 +150,7 @@ KORVEX_API void mathMatrixNDPt_2D(const nd_point_2d& p, point_3d& q, const doubl
 KORVEX_API void mathMatrixPt_3D(const point_3d& p, point_3d& q, const double* m);
 // r = the axis-aligned box of the four corners of b transformed by
 // mathMatrixPt_2D with m[16]: a flat box in space. An empty b gives an
-// empty r. r may be the same object as b.
+// empty r.
 KORVEX_API void mathMatrixBox2D(const Box2D& b, Box3D& r, const double* m);
 // r = the axis-aligned box of the eight corners of b transformed by
 // mathMatrixPt_3D with m[16] (not a transformed box). An empty b gives an
