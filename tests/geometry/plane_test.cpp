@@ -135,3 +135,29 @@ TEST(Plane, TwoPlanes)
     EXPECT_EQ(mathIsPlnOverlap(p1, kUp, p4, tilt, 4e-7, 1e-6), 0);
     EXPECT_EQ(mathIsPlnOverlap(p1, kUp, p4, tilt, 1e-6, 1e-9), 0);
 }
+
+TEST(Plane, ThreePlanesAlwaysReport801)
+{
+    const double ex[3] = {1.0, 0.0, 0.0};
+    const double ey[3] = {0.0, 1.0, 0.0};
+    const double p[3] = {1.0, 2.0, 3.0};
+    double x[3] = {42.0, 42.0, 42.0};
+    EXPECT_EQ(mathInt3Pln(p, ex, p, ey, p, kUp, 1e-6, x), 801);
+    expectPoint(x, 1.0, 2.0, 3.0);
+
+    // Three parallel planes: the system is singular, x is left alone, and
+    // the code is the same.
+    const double q[3] = {0.0, 0.0, 5.0};
+    x[0] = x[1] = x[2] = 42.0;
+    EXPECT_EQ(mathInt3Pln(kOrigin, kUp, p, kUp, q, kUp, 1e-6, x), 801);
+    expectPoint(x, 42.0, 42.0, 42.0);
+
+    // The determinant tolerance is tol squared: a determinant of 1e-4 is
+    // singular for tol 0.0101 but not for tol 0.0099.
+    const double nz[3] = {0.0, 0.0, 1e-4};
+    x[0] = 42.0;
+    EXPECT_EQ(mathInt3Pln(p, ex, p, ey, kOrigin, nz, 0.0101, x), 801);
+    EXPECT_EQ(x[0], 42.0);
+    EXPECT_EQ(mathInt3Pln(p, ex, p, ey, kOrigin, nz, 0.0099, x), 801);
+    expectPoint(x, 1.0, 2.0, 0.0);
+}
