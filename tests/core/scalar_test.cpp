@@ -1,0 +1,139 @@
+#include <korvex/capi.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+
+const double kPi = 3.141592653589793;
+const double kHalfPi = 1.5707963267948966;
+const double kTwoPi = 6.283185307179586;
+
+} // namespace
+
+TEST(Tolerances, DefaultsAndUncheckedSetters)
+{
+    EXPECT_EQ(gmGetDistTol(), 0.002);
+    EXPECT_EQ(gmGetParaTol(), 0.0001);
+    EXPECT_EQ(gmGetAbsDistTol(), 1e-6);
+    EXPECT_EQ(gmGetAbsParaTol(), 1e-6);
+    EXPECT_EQ(gmGetAbsZero(), 1e-10);
+
+    // Zero and negative values are stored as given, and each setter only
+    // touches its own tolerance.
+    gmSetDistTol(-1.0);
+    gmSetParaTol(0.0);
+    gmSetAbsDistTol(3.0);
+    gmSetAbsParaTol(4.0);
+    gmSetAbsZero(-5.0);
+    EXPECT_EQ(gmGetDistTol(), -1.0);
+    EXPECT_EQ(gmGetParaTol(), 0.0);
+    EXPECT_EQ(gmGetAbsDistTol(), 3.0);
+    EXPECT_EQ(gmGetAbsParaTol(), 4.0);
+    EXPECT_EQ(gmGetAbsZero(), -5.0);
+
+    gmSetDistTol(0.002);
+    gmSetParaTol(0.0001);
+    gmSetAbsDistTol(1e-6);
+    gmSetAbsParaTol(1e-6);
+    gmSetAbsZero(1e-10);
+}
+
+TEST(Packing, HalvesAreKeptAndReplaced)
+{
+    EXPECT_EQ(mathGetHigh16(0xFFFF1234u), 0xFFFFu);
+    EXPECT_EQ(mathGetLow16(0xFFFF1234u), 0x1234u);
+    EXPECT_EQ(mathSetLow16(0x12345678u, 0xABCDu), 0x1234ABCDu);
+    EXPECT_EQ(mathSetHigh16(0x12345678u, 0xABCDu), 0xABCD5678u);
+    EXPECT_EQ(mathSetLow16(0x12345678u, 0xFFFFABCDu), 0x1234ABCDu);
+    EXPECT_EQ(mathMerge16(0x1u, 0x10002u), 0x00010002u);
+    EXPECT_EQ(mathMerge16(0xABCDu, 0x1234u), 0xABCD1234u);
+}
+
+TEST(Clamping, BoundsPeriodsAndArgumentOrder)
+{
+    EXPECT_EQ(mathClamp(0.0, 1.0, 0.5), 0.5);
+    EXPECT_EQ(mathClamp(0.0, 1.0, 1.0), 1.0);
+    EXPECT_EQ(mathClamp(0.0, 1.0, 3.0), 1.0);
+    EXPECT_EQ(mathClamp(0.0, 1.0, -3.0), 0.0);
+    // An inverted range: the lower bound is tested first.
+    EXPECT_EQ(mathClamp(2.0, 1.0, 1.5), 2.0);
+
+    EXPECT_EQ(mathClamp01(-0.1), 0.0);
+    EXPECT_EQ(mathClamp01(1.1), 1.0);
+    EXPECT_EQ(mathClamp01(0.25), 0.25);
+
+    EXPECT_EQ(mathClamp0PI2(kTwoPi), kTwoPi);
+    EXPECT_EQ(mathClamp0PI2(0.0), 0.0);
+    EXPECT_DOUBLE_EQ(mathClamp0PI2(-0.5), kTwoPi - 0.5);
+    EXPECT_DOUBLE_EQ(mathClamp0PI2(7.0), 7.0 - kTwoPi);
+    EXPECT_NEAR(mathClamp0PI2(-3.0 * kTwoPi - 1.0), kTwoPi - 1.0, 1e-12);
+
+    EXPECT_EQ(mathClampPeriodic(1.0, 1.0, 5.0), 1.0);
+    EXPECT_EQ(mathClampPeriodic(2.0, 1.0, 5.0), 1.5);
+    EXPECT_EQ(mathClampPeriodic(0.0, 10.0, 10.0), 10.0);
+    EXPECT_EQ(mathClampPeriodic(0.0, 10.0, -3.0), 7.0);
+    EXPECT_EQ(mathClampPeriodic(0.0, 10.0, 23.0), 3.0);
+    // The upper end reached from outside wraps to the lower end.
+    EXPECT_EQ(mathClampPeriodic(0.0, 10.0, 20.0), 0.0);
+}
+
+TEST(Random, StepsOfOneTenThousandthBelowOne)
+{
+    for (int i = 0; i < 1000; ++i) {
+        const double r = mathRand01();
+        ASSERT_GE(r, 0.0);
+        ASSERT_LE(r, 0.9999);
+        const double steps = r * 10000.0;
+        ASSERT_NEAR(steps, std::round(steps), 1e-6);
+    }
+}
+
+TEST(Swaps, ExchangeExactlyTheGivenCount)
+{
+    int i = 1, j = 2;
+    mathSwapInt(&i, &j);
+    EXPECT_EQ(i, 2);
+    EXPECT_EQ(j, 1);
+    double x = 1.5, y = -2.5;
+    mathSwapDbl(&x, &y);
+    EXPECT_EQ(x, -2.5);
+    EXPECT_EQ(y, 1.5);
+
+    double a[3] = {1.0, 2.0, 3.0};
+    double b[3] = {4.0, 5.0, 6.0};
+    mathSwapDblN(a, b, 0);
+    mathSwapDblN(a, b, -2);
+    EXPECT_EQ(a[0], 1.0);
+    EXPECT_EQ(b[0], 4.0);
+    mathSwapPnt2D(a, b);
+    EXPECT_EQ(a[0], 4.0);
+    EXPECT_EQ(a[1], 5.0);
+    EXPECT_EQ(a[2], 3.0);
+    EXPECT_EQ(b[2], 6.0);
+    mathSwapPnt3D(a, b);
+    EXPECT_EQ(a[0], 1.0);
+    EXPECT_EQ(a[2], 6.0);
+    EXPECT_EQ(b[2], 3.0);
+}
+
+TEST(GuardedTrig, EndValuesNearPlusMinusOne)
+{
+    EXPECT_EQ(mathACos(1.0000000000001), 0.0);
+    EXPECT_EQ(mathACos(-1.0000000000001), kPi);
+    // Inside [-1, 1] but above the guard: exactly 0, not acos of it.
+    EXPECT_EQ(mathACos(0.9999999999995), 0.0);
+    EXPECT_EQ(mathACos(0.5), std::acos(0.5));
+    EXPECT_EQ(mathASin(1.0000000000001), kHalfPi);
+    EXPECT_EQ(mathASin(-0.9999999999995), -kHalfPi);
+    EXPECT_EQ(mathASin(0.5), std::asin(0.5));
+    EXPECT_TRUE(std::isnan(mathACos(NAN)));
+
+    EXPECT_EQ(mathSolAngleByCS(0.0, 0.0), 0.0);
+    EXPECT_EQ(mathSolAngleByCS(1.0, 0.0), 0.0);
+    EXPECT_EQ(mathSolAngleByCS(1.0, -1e-30), kTwoPi);
+    EXPECT_EQ(mathSolAngleByCS(-1.0, 0.0), kPi);
+    EXPECT_DOUBLE_EQ(mathSolAngleByCS(0.0, -2.0), 1.5 * kPi);
+    EXPECT_DOUBLE_EQ(mathSolAngleByCS(3.0, 3.0), 0.25 * kPi);
+}
