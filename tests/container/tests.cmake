@@ -1,2 +1,3 @@
 korvex_test_sources(container
+  container_test.cpp
 )

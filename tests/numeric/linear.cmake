@@ -1,2 +1,4 @@
 korvex_test_sources(numeric
+  linear_test.cpp
+  band_test.cpp
 )

@@ -110,7 +110,9 @@ KORVEX_API int mathGaussEliminate(double *A, double *b, int n);
  *   x  out length n (must not overlap A or b)
  * Uses mathGaussEliminate on a copy; when that reports the matrix singular,
  * x becomes pinv(A) b, the least-squares solution of minimum norm, and the
- * result is still 1. Returns 1, 0 when the pseudo-inverse cannot be
+ * result is still 1. Both tests are absolute: a regular matrix with all
+ * elements below about 1e-16 fails the pivot test, and if its columns are
+ * also shorter than 1e-10 the pseudo-inverse counts them as zero and x = 0. Returns 1, 0 when the pseudo-inverse cannot be
  * computed (out of memory; x then holds the partial elimination), -1 when
  * the copy cannot be allocated (nothing is written). */
 KORVEX_API int mathSolLineEqua(int n, const double *A, const double *b, double *x);
