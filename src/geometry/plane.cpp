@@ -57,9 +57,9 @@ int mathIsLinOnPln(const double l[3], const double d[3], const double p0[3], con
     const double farParam = 100.0;
     if (!(tol > mathDistPntPln(l, p0, n)))
         return 0;
-    double far[3];
-    mathAddVec(l, d, farParam, far);
-    return tol > mathDistPntPln(far, p0, n) ? 1 : 0;
+    double farPoint[3];
+    mathAddVec(l, d, farParam, farPoint);
+    return tol > mathDistPntPln(farPoint, p0, n) ? 1 : 0;
 }
 
 int mathIntLinPln(const double l[3], const double d[3], const double p0[3], const double n[3],

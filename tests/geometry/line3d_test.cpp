@@ -15,59 +15,40 @@ void expectPoint(const double p[3], double x, double y, double z)
 
 } // namespace
 
-TEST(Line3D, DistancesAndStrictOnLineTest)
+TEST(Line3D, DegenerateAndStrictCases)
 {
     const double a[3] = {1.0, 1.0, 1.0};
     const double b[3] = {1.0, 1.0, 5.0};
     const double p[3] = {4.0, 5.0, -7.0};
     EXPECT_NEAR(mathDistPntLinEx(p, a, b), 5.0, 1e-12);
-    const double d[3] = {0.0, 0.0, 1.0};
-    EXPECT_NEAR(mathDistPntLin(p, a, d), 5.0, 1e-12);
-    // Coincident points: distance to a.
-    EXPECT_NEAR(mathDistPntLinEx(p, a, a), std::sqrt(9.0 + 16.0 + 64.0), 1e-12);
-
+    EXPECT_NEAR(mathDistPntLinEx(p, a, a), std::sqrt(89.0), 1e-12);
     const double onEdge[3] = {1.25, 1.0, 3.0};
     EXPECT_EQ(mathChkPntLin(onEdge, a, b, 0.25), 0);
     EXPECT_EQ(mathChkPntLin(onEdge, a, b, 0.2500001), 1);
-}
 
-TEST(Line3D, DirectionLengthFailureCodes)
-{
-    const double a[3] = {1.0, 2.0, 3.0};
-    const double b[3] = {1.0, 5.0, 7.0};
+    // Too short: -4 in space (0 in the plane), raw direction, length written.
     double d[3];
     double len = 0.0;
-    EXPECT_EQ(mathGetLinDirLen(a, b, 1e-10, d, &len), 1);
-    EXPECT_DOUBLE_EQ(len, 5.0);
-    expectPoint(d, 0.0, 0.6, 0.8);
-    EXPECT_EQ(mathGetLinDirLen(a, b, 6.0, d, &len), -4);
-    expectPoint(d, 0.0, 3.0, 4.0);
-    // Coincident points: -4 in space, 0 in the plane.
+    EXPECT_EQ(mathGetLinDirLen(a, b, 4.0, d, &len), 1);
+    expectPoint(d, 0.0, 0.0, 1.0);
+    EXPECT_EQ(mathGetLinDirLen(a, b, 4.5, d, &len), -4);
+    expectPoint(d, 0.0, 0.0, 4.0);
     EXPECT_EQ(mathGetLinDirLen(a, a, 1e-10, d, &len), -4);
     EXPECT_EQ(len, 0.0);
-    double d2[2];
-    EXPECT_EQ(mathGetLinDirLen2D(a, a, 1e-10, d2, &len), 0);
-}
 
-TEST(Line3D, ProjectionsWithParameter)
-{
-    const double a[3] = {1.0, 0.0, 0.0};
-    const double b[3] = {1.0, 4.0, 0.0};
     double q[3];
     double t = -1.0;
-    const double p[3] = {7.0, 3.0, 2.0};
     mathPrjPntLineEx(p, a, b, q, &t);
-    expectPoint(q, 1.0, 3.0, 0.0);
-    EXPECT_DOUBLE_EQ(t, 0.75);
-    mathPrjPntLineEx(p, a, a, q, &t);
-    expectPoint(q, 1.0, 0.0, 0.0);
+    expectPoint(q, 1.0, 1.0, -7.0);
+    EXPECT_DOUBLE_EQ(t, -2.0);
+    mathPrjPntLineEx(p, b, b, q, &t);
+    expectPoint(q, 1.0, 1.0, 5.0);
     EXPECT_EQ(t, 0.0);
-
-    double pp[3] = {7.0, 3.0, 2.0};
+    double pp[3] = {4.0, 5.0, 3.0};
     EXPECT_EQ(mathPrjPntLinEx(pp, a, b, pp), 1);
-    expectPoint(pp, 1.0, 3.0, 0.0);
+    expectPoint(pp, 1.0, 1.0, 3.0);
     EXPECT_EQ(mathPrjPntLinEx(p, a, a, q), 0);
-    expectPoint(q, 1.0, 0.0, 0.0);
+    expectPoint(q, 1.0, 1.0, 1.0);
 }
 
 TEST(Line3D, ParameterAxisChoice)
