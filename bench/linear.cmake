@@ -1,1 +1,2 @@
 # benchmarks: linear
+korvex_add_bench(korvex_bench_linear linear_band.cpp)
