@@ -1,2 +1,3 @@
 korvex_test_sources(geometry
+  triangle_test.cpp
 )
