@@ -1,0 +1,208 @@
+#include <korvex/capi.h>
+#include <korvex/classes.hpp>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "classes/tolerance_guard.hpp"
+
+namespace {
+
+const double kTwoPiF = 6.2831854820251465; // 2*pi as a float, widened
+const double kPi = 3.141592653589793;
+
+TEST(Point2D, IndexTagAndCrossClassAssignment)
+{
+    point_2d p(3.0f, 4.0f);
+    EXPECT_EQ(p[1], 4.0f);
+    EXPECT_EQ(p[2], 3.0f); // out of range falls back to x
+    EXPECT_EQ(p[-1], 3.0f);
+    p[7] = 9.0f;
+    EXPECT_EQ(p.x, 9.0f);
+    EXPECT_EQ(static_cast<float*>(p)[1], 4.0f);
+
+    nd_point_2d n;
+    EXPECT_EQ(n.tag, 0);
+    n.tag = 7;
+    nd_point_2d copy(n);
+    nd_point_2d assigned;
+    assigned = n;
+    EXPECT_EQ(copy.tag, 7);
+    EXPECT_EQ(assigned.tag, 7);
+
+    n = point_2d(1.0f, 2.0f); // keeps the tag
+    EXPECT_EQ(n.tag, 7);
+    EXPECT_EQ(n.x, 1.0f);
+    n = point_3d(5.0f, 6.0f, 7.0f);
+    EXPECT_EQ(n.tag, 7);
+    EXPECT_EQ(n.y, 6.0f);
+
+    point_2d q;
+    q = point_3d(8.0f, 9.0f, 10.0f);
+    EXPECT_EQ(q.x, 8.0f);
+    EXPECT_EQ(q.y, 9.0f);
+}
+
+TEST(Point2D, MatrixAndProducts)
+{
+    // Quarter turn then a shift by (5, 6); the third column must be ignored.
+    float m[9] = {0.0f, 1.0f, 9.0f, -1.0f, 0.0f, 9.0f, 5.0f, 6.0f, 9.0f};
+    float m33[3][3] = {{0.0f, 1.0f, 9.0f}, {-1.0f, 0.0f, 9.0f}, {5.0f, 6.0f, 9.0f}};
+    const point_2d p(1.0f, 2.0f);
+    const float* cm = m;
+    for (point_2d r : {p * cm, cm * p, p * m33, m33 * p}) {
+        EXPECT_EQ(r.x, 3.0f);
+        EXPECT_EQ(r.y, 7.0f);
+    }
+    point_2d q = p;
+    q *= m;
+    EXPECT_EQ(q.x, 3.0f);
+
+    const point_2d c = point_2d(1.0f, 0.0f).Xproduct(point_2d(0.0f, 1.0f), point_2d(2.0f, 3.0f));
+    EXPECT_EQ(c.x, -3.0f);
+    EXPECT_EQ(c.y, 2.0f);
+    EXPECT_EQ(point_2d(1.0f, 2.0f).Xproduct(point_2d(3.0f, 4.0f)), -2.0f);
+    EXPECT_EQ((2.0f * p).y, 4.0f);
+    EXPECT_EQ(p.Inverse().x, -1.0f);
+}
+
+TEST(Point2D, EqualityUsesTenTimesAbsoluteDistance)
+{
+    EXPECT_TRUE(point_2d(0.0f, 0.0f) == point_2d(9e-6f, 0.0f));
+    EXPECT_FALSE(point_2d(0.0f, 0.0f) == point_2d(2e-5f, 0.0f));
+    EXPECT_TRUE(point_2d(0.0f, 0.0f) != point_2d(2e-5f, 0.0f));
+
+    ToleranceGuard guard;
+    gmSetAbsDistTol(0.1); // limit 1.0: a distance of exactly 1 is unequal
+    EXPECT_EQ(point_2d(0.0f, 0.0f) == point_2d(1.0f, 0.0f), 0);
+    EXPECT_EQ(point_2d(0.0f, 0.0f) != point_2d(1.0f, 0.0f), 1);
+    EXPECT_EQ(point_2d(0.0f, 0.0f) == point_2d(0.99f, 0.0f), 1);
+    EXPECT_EQ(point_2d(0.0f, 0.0f) != point_2d(0.99f, 0.0f), 0);
+}
+
+TEST(Point2D, DivisionGuardAndUnit)
+{
+    const point_2d p(2.0f, 4.0f);
+    EXPECT_EQ((p / 0.0f).x, 2.0f);
+    EXPECT_EQ((p / 2.0f).y, 2.0f);
+
+    ToleranceGuard guard;
+    gmSetAbsZero(0.5);
+    point_2d q = p;
+    q /= 0.5f; // not above the bound: untouched
+    EXPECT_EQ(q.x, 2.0f);
+    q /= -0.5f;
+    EXPECT_EQ(q.x, 2.0f);
+    EXPECT_FLOAT_EQ((p / 0.6f).x, 2.0f / 0.6f);
+
+    point_2d tiny(1e-10f, 0.0f);
+    EXPECT_EQ(tiny.Unit(), 0.0f);
+    EXPECT_EQ(tiny.x, 0.0f);
+    point_2d v(3.0f, 4.0f);
+    EXPECT_FLOAT_EQ(v.Unit(), 5.0f);
+    EXPECT_FLOAT_EQ(v.y, 0.8f);
+}
+
+TEST(Point2D, DirectionPredicates)
+{
+    const point_2d ex(1.0f, 0.0f);
+    EXPECT_EQ(ex.IsSameDirection(point_2d(-2.0f, 0.0f)), 0);
+    EXPECT_EQ(ex.IsParallel(point_2d(-2.0f, 0.0f)), 1);
+    EXPECT_EQ(ex.IsSameDirection(point_2d(1.0f, 0.01f)), 1);  // cos ~ 0.99995
+    EXPECT_EQ(ex.IsParallel(point_2d(1.0f, 0.02f)), 0);       // cos ~ 0.9998
+    // Long enough for Unit() but shorter than the absolute distance tolerance.
+    EXPECT_EQ(ex.IsSameDirection(point_2d(5e-7f, 0.0f)), 0);
+    EXPECT_EQ(point_2d().IsParallel(ex), 0);
+
+    // The raw dot product meets the distance tolerance.
+    EXPECT_EQ(point_2d(1000.0f, 0.0f).IsPerpendicular(point_2d(0.00001f, 1.0f)), 0);
+    EXPECT_EQ(ex.IsPerpendicular(point_2d(0.001f, 1.0f)), 1);
+    ToleranceGuard guard;
+    gmSetDistTol(0.0005);
+    EXPECT_EQ(ex.IsPerpendicular(point_2d(0.001f, 1.0f)), 0);
+}
+
+TEST(Point2D, AxisAnglesSnapWithParallelismTolerance)
+{
+    EXPECT_EQ(point_2d(1.0f, -1e-5f).AngleToXAxis(), kTwoPiF);
+    EXPECT_EQ(point_2d(1.0f, 1e-5f).AngleToXAxis(), 0.0);
+    EXPECT_EQ(point_2d(1.0f, 0.0f).AngleToXAxis(), 0.0);
+    EXPECT_NEAR(point_2d(-1.0f, 0.0f).AngleToXAxis(), kPi, 1e-6);
+
+    // Measured from the y axis: just clockwise of it gives 2*pi.
+    EXPECT_EQ(point_2d(0.0f, 1.0f).AngleToYAxis(), 0.0);
+    EXPECT_EQ(point_2d(-1e-5f, 1.0f).AngleToYAxis(), 0.0);
+    EXPECT_EQ(point_2d(1e-5f, 1.0f).AngleToYAxis(), kTwoPiF);
+    EXPECT_NEAR(point_2d(1.0f, 0.0f).AngleToYAxis(), 1.5 * kPi, 1e-6);
+
+    ToleranceGuard guard;
+    gmSetParaTol(1e-7);
+    const double a = point_2d(1.0f, -1e-5f).AngleToXAxis();
+    EXPECT_LT(a, kTwoPiF);
+    EXPECT_NEAR(a, kTwoPiF - 1e-5, 1e-7);
+}
+
+TEST(Point2D, SegmentAndLineDistances)
+{
+    const point_2d a(0.0f, 0.0f), b(1.0f, 0.0f);
+    float t = 9.0f, dist = 9.0f;
+    point_2d foot;
+
+    // Slightly before a, within the parallelism tolerance: projection kept.
+    point_2d(-0.00005f, 1.0f).GetDistLineSeg(a, b, t, foot, dist);
+    EXPECT_LT(t, 0.0f);
+    EXPECT_FLOAT_EQ(foot.x, -0.00005f);
+    EXPECT_FLOAT_EQ(dist, 1.0f);
+
+    point_2d(-1.0f, 1.0f).GetDistLineSeg(a, b, t, foot, dist);
+    EXPECT_EQ(t, 0.0f);
+    EXPECT_EQ(foot.x, 0.0f);
+    EXPECT_FLOAT_EQ(dist, std::sqrt(2.0f));
+
+    EXPECT_EQ(point_2d(3.0f, 1.0f).GetDistLineSeg(a, b, t, foot, dist), 1);
+    EXPECT_EQ(t, 1.0f);
+    EXPECT_EQ(foot.x, 1.0f);
+
+    // The infinite line does not clamp.
+    point_2d(3.0f, 1.0f).GetProjectPoint(a, b, t, foot, dist);
+    EXPECT_FLOAT_EQ(t, 3.0f);
+    EXPECT_FLOAT_EQ(foot.x, 3.0f);
+    EXPECT_FLOAT_EQ(dist, 1.0f);
+
+    // A segment shorter than the distance tolerance is the point a.
+    point_2d(0.5f, 1.0f).GetDistLineSeg(a, point_2d(0.001f, 0.0f), t, foot, dist);
+    EXPECT_EQ(t, 0.0f);
+    EXPECT_FLOAT_EQ(dist, std::sqrt(1.25f));
+
+    // The line test compares the squared length: 5e-4 squared is below 1e-6.
+    EXPECT_FLOAT_EQ(point_2d(1.0f, 1.0f).GetDistLine(a, point_2d(5e-4f, 0.0f)), std::sqrt(2.0f));
+    EXPECT_FLOAT_EQ(point_2d(1.0f, 1.0f).GetDistLine(a, point_2d(5e-3f, 0.0f)), 1.0f);
+
+    float lt = 0.0f;
+    const float d3 = point_2d(2.0f, 3.0f).GetDistLine(point_3d(0.0f, 0.0f, 1.0f),
+                                                      point_3d(1.0f, 0.0f, 0.0f), lt);
+    EXPECT_FLOAT_EQ(lt, 2.0f);
+    EXPECT_FLOAT_EQ(d3, std::sqrt(10.0f));
+}
+
+TEST(Point2D, OnLineAndCollinearity)
+{
+    const point_2d a(0.0f, 0.0f), b(1.0f, 0.0f);
+    EXPECT_EQ(point_2d(0.5f, 5e-7f).IsOn(a, b), 1);
+    EXPECT_EQ(point_2d(0.5f, 2e-6f).IsOn(a, b), 0);
+    EXPECT_EQ(point_2d(2.0f, 0.0f).IsOn(a, b), 1);
+    EXPECT_EQ(point_2d(2.0f, 0.0f).IsOnSeg(a, b), 0);
+
+    const point_2d o(0.0f, 0.0f);
+    EXPECT_EQ(o.IsConLine(point_2d(1.0f, 1.0f), point_2d(-2.0f, -2.0f)), 1);
+    EXPECT_EQ(o.IsConLine(point_2d(1.0f, 0.0f), point_2d(0.0f, 1.0f)), 0);
+    EXPECT_EQ(o.IsConLine(o, point_2d(1.0f, 1.0f)), 0); // coincident end point
+
+    point_2d pts[3] = {point_2d(0.0f, 0.0f), point_2d(1.0f, 0.5f), point_2d(2.0f, 0.0f)};
+    EXPECT_EQ(IsPtsColine(pts, 2, 0.0f), 1);
+    EXPECT_EQ(IsPtsColine(pts, 3, 0.5f), 1); // a distance equal to tol passes
+    EXPECT_EQ(IsPtsColine(pts, 3, 0.4999f), 0);
+}
+
+} // namespace
