@@ -46,12 +46,6 @@ Box2D& Box2D::operator=(Box3D const& b)
     return *this;
 }
 
-void Box2D::EmptyBox()
-{
-    min.Set(1.0f, 1.0f);
-    max.Set(-1.0f, -1.0f);
-}
-
 void Box2D::DefineBox(float xmin, float ymin, float xmax, float ymax)
 {
     storeFour(min.x, min.y, max.x, max.y, xmin, ymin, xmax, ymax);

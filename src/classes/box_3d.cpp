@@ -43,12 +43,6 @@ Box3D::Box3D(Box2D const& b)
     DefineBox(b, 0.0f);
 }
 
-void Box3D::EmptyBox()
-{
-    min.Set(1.0f, 1.0f, 1.0f);
-    max.Set(-1.0f, -1.0f, -1.0f);
-}
-
 void Box3D::DefineBox(Box3D const& b)
 {
     *this = b;

@@ -35,7 +35,7 @@ public:
     // --- definition ---------------------------------------------------------
 
     // The empty box (1, 1)-(-1, -1).
-    Box2D() : min(1.0f, 1.0f), max(-1.0f, -1.0f) {}
+    Box2D() { EmptyBox(); }
     // Stored in argument order, not sorted.
     Box2D(float xmin, float ymin, float xmax, float ymax)
         : min(xmin, ymin), max(xmax, ymax) {}
@@ -48,7 +48,7 @@ public:
     Box2D& operator=(Box3D const& b);
 
     // Makes this the empty box.
-    void EmptyBox();
+    void EmptyBox() { min.Set(1.0f, 1.0f); max.Set(-1.0f, -1.0f); }
     // Stores xmin, ymin, xmax, ymax in argument order, not sorted.
     void DefineBox(float xmin, float ymin, float xmax, float ymax);
     void DefineBox(Box2D const& b);
@@ -133,7 +133,7 @@ public:
     // --- definition ---------------------------------------------------------
 
     // The empty box (1, 1, 1)-(-1, -1, -1).
-    Box3D() : min(1.0f, 1.0f, 1.0f), max(-1.0f, -1.0f, -1.0f) {}
+    Box3D() { EmptyBox(); }
     // The flat box spanned by a and b in the plane z = 0 (x and y sorted).
     Box3D(point_2d const& a, point_2d const& b);
     Box3D(Box3D const& b) = default;
@@ -142,7 +142,7 @@ public:
     Box3D(Box2D const& b);
 
     // Makes this the empty box.
-    void EmptyBox();
+    void EmptyBox() { min.Set(1.0f, 1.0f, 1.0f); max.Set(-1.0f, -1.0f, -1.0f); }
     void DefineBox(Box3D const& b);
     // The x and y extents of a Box2D, zmin = zmax = z.
     void DefineBox(Box2D const& b, float z);

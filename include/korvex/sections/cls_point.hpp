@@ -60,7 +60,7 @@ public:
     // Same as Set(px, py).
     void operator()(float px, float py) { Set(px, py); }
     // x and y from v[0] and v[1].
-    void operator()(float* v) { x = v[0]; y = v[1]; }
+    void operator()(float* v) { float const* c = v; Set(c); }
 
     // Index 1 gives y; every other index, negative ones included, gives x.
     // Out-of-range indices are not an error.
@@ -211,10 +211,10 @@ public:
     // --- construction, assignment, access --------------------------------
 
     // (0, 0, 0).
-    point_3d() : x(0.0f), y(0.0f), z(0.0f) {}
-    point_3d(float px, float py, float pz) : x(px), y(py), z(pz) {}
+    point_3d() { Init(); }
+    point_3d(float px, float py, float pz) { Set(px, py, pz); }
     // x, y and z from v[0], v[1] and v[2].
-    point_3d(float const*& v) : x(v[0]), y(v[1]), z(v[2]) {}
+    point_3d(float const*& v) { Set(v); }
     point_3d(point_3d const& p) = default;
     point_3d& operator=(point_3d const& p) = default;
     // Copies x, y and z only; the tag of the source is not kept.
@@ -230,7 +230,7 @@ public:
     // Same as Set(px, py, pz).
     void operator()(float px, float py, float pz) { Set(px, py, pz); }
     // x, y and z from v[0], v[1] and v[2].
-    void operator()(float* v) { x = v[0]; y = v[1]; z = v[2]; }
+    void operator()(float* v) { float const* c = v; Set(c); }
 
     // Index 1 gives y, 2 gives z; every other index gives x, without error.
     float& operator[](int const& i) { return i == 1 ? y : (i == 2 ? z : x); }
@@ -360,10 +360,10 @@ public:
     float w;
 
     // (0, 0, 0, 1).
-    point_4d() : x(0.0f), y(0.0f), z(0.0f), w(1.0f) {}
-    point_4d(float px, float py, float pz, float pw) : x(px), y(py), z(pz), w(pw) {}
+    point_4d() { Init(); }
+    point_4d(float px, float py, float pz, float pw) { Set(px, py, pz, pw); }
     // The four fields from v[0] .. v[3].
-    point_4d(float const*& v) : x(v[0]), y(v[1]), z(v[2]), w(v[3]) {}
+    point_4d(float const*& v) { Set(v); }
     point_4d(point_4d const& p) = default;
     point_4d& operator=(point_4d const& p) = default;
     // (p.x, p.y, 0, 1).
