@@ -250,11 +250,11 @@ namespace {
 
 // Shared start of the segment and line projections: when a-b is shorter than
 // the distance tolerance the segment is the point a. Returns true when it
-// filled t, foot and dist for that case; lenSq receives |b - a|^2.
+// filled t, foot and dist for that case; d receives b - a and lenSq |d|^2.
 bool projectOnPoint(point_2d const& p, point_2d const& a, point_2d const& b,
-                    float& t, point_2d& foot, float& dist, float& lenSq)
+                    float& t, point_2d& foot, float& dist, point_2d& d, float& lenSq)
 {
-    const point_2d d = b - a;
+    d = b - a;
     lenSq = d.Iproduct(d);
     const float len = std::sqrt(lenSq);
     if (static_cast<double>(len) < gmGetDistTol()) {
@@ -271,11 +271,11 @@ bool projectOnPoint(point_2d const& p, point_2d const& a, point_2d const& b,
 int point_2d::GetDistLineSeg(point_2d const& a, point_2d const& b, float& t,
                              point_2d& foot, float& dist) const
 {
+    point_2d d;
     float lenSq = 0.0f;
-    if (projectOnPoint(*this, a, b, t, foot, dist, lenSq))
+    if (projectOnPoint(*this, a, b, t, foot, dist, d, lenSq))
         return 1;
 
-    const point_2d d = b - a;
     const float tp = (*this - a).Iproduct(d) / lenSq;
     const double slack = gmGetParaTol();
     const double td = static_cast<double>(tp);
@@ -305,11 +305,11 @@ int point_2d::GetDistLineSeg(point_2d const& a, point_2d const& b, float& t,
 int point_2d::GetProjectPoint(point_2d const& a, point_2d const& b, float& t,
                               point_2d& foot, float& dist) const
 {
+    point_2d d;
     float lenSq = 0.0f;
-    if (projectOnPoint(*this, a, b, t, foot, dist, lenSq))
+    if (projectOnPoint(*this, a, b, t, foot, dist, d, lenSq))
         return 1;
 
-    const point_2d d = b - a;
     t = (*this - a).Iproduct(d) / lenSq;
     foot = a + d * t;
     dist = DistFrom(foot);
