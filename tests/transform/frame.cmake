@@ -1,2 +1,3 @@
 korvex_test_sources(transform
+  frame_test.cpp
 )

@@ -1,0 +1,486 @@
+#include <korvex/capi.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+
+const double pi = 3.141592653589793;
+
+// An orthonormal frame in general position.
+MathRFrame tiltedFrame()
+{
+    MathRFrame f;
+    const double o[3] = {1.5, -2.0, 0.75};
+    const double z[3] = {1.0, 2.0, 2.0};
+    const double r[3] = {0.3, -1.0, 0.2};
+    EXPECT_EQ(mathDerivFrame(o, z, r, &f), 1);
+    return f;
+}
+
+MathRFrame otherFrame()
+{
+    MathRFrame f;
+    const double o[3] = {-3.0, 0.5, 4.0};
+    const double z[3] = {-0.2, 0.1, 1.0};
+    const double r[3] = {1.0, 1.0, 0.0};
+    EXPECT_EQ(mathDerivFrame(o, z, r, &f), 1);
+    return f;
+}
+
+void expectNear3(const double* a, const double* b, double eps)
+{
+    for (int i = 0; i < 3; ++i)
+        EXPECT_NEAR(a[i], b[i], eps) << "component " << i;
+}
+
+void expectIdentity(const MathRFrame& f, double eps)
+{
+    MathRFrame id;
+    mathInitRFrame(&id);
+    expectNear3(f.xAxis, id.xAxis, eps);
+    expectNear3(f.yAxis, id.yAxis, eps);
+    expectNear3(f.zAxis, id.zAxis, eps);
+    expectNear3(f.origin, id.origin, eps);
+    EXPECT_NEAR(f.scale, 1.0, eps);
+}
+
+TEST(FrameRecord, IdentityMoveAndScale)
+{
+    MathRFrame f;
+    mathInitRFrame(&f);
+    mathInitRFrame(nullptr);
+    EXPECT_EQ(mathIsRFrameUnit(&f), 1);
+    EXPECT_EQ(mathIsRFrameUnit(nullptr), 0);
+    f.scale = 1.0 + 2e-12;
+    EXPECT_EQ(mathIsRFrameUnit(&f), 0);
+    f.scale = 1.0 + 5e-13;
+    EXPECT_EQ(mathIsRFrameUnit(&f), 1);
+    f.scale = 1.0;
+    f.zAxis[0] = 2e-12;
+    EXPECT_EQ(mathIsRFrameUnit(&f), 0);
+
+    // Scaling only moves the origin.
+    MathRFrame g = tiltedFrame();
+    const MathRFrame before = g;
+    const double v[3] = {1, 2, 3};
+    mathScaleRFrame(v, 5, &g);
+    EXPECT_EQ(g.origin[0], before.origin[0] + 1);
+    EXPECT_EQ(g.origin[1], before.origin[1] + 2);
+    EXPECT_EQ(g.origin[2], before.origin[2] + 3);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(g.xAxis[i], before.xAxis[i]);
+        EXPECT_EQ(g.zAxis[i], before.zAxis[i]);
+    }
+    EXPECT_EQ(g.scale, before.scale);
+    mathMoveRFrame(v, &g);
+    EXPECT_EQ(g.origin[2], before.origin[2] + 6);
+}
+
+TEST(FrameRecord, DerivedFrameIsRightHandedOrthonormal)
+{
+    const MathRFrame f = tiltedFrame();
+    EXPECT_NEAR(mathVecLen(f.xAxis), 1.0, 1e-15);
+    EXPECT_NEAR(mathVecLen(f.yAxis), 1.0, 1e-15);
+    EXPECT_NEAR(mathOProduct(f.xAxis, f.yAxis), 0.0, 1e-15);
+    EXPECT_NEAR(mathOProduct(f.xAxis, f.zAxis), 0.0, 1e-15);
+    EXPECT_NEAR(mathMProduct(f.xAxis, f.yAxis, f.zAxis), 1.0, 1e-15);
+    EXPECT_NEAR(f.zAxis[0], 1.0 / 3.0, 1e-15);
+    EXPECT_EQ(f.scale, 1.0);
+
+    MathRFrame g;
+    const double o[3] = {0, 0, 0}, z[3] = {0, 0, 2}, along[3] = {0, 0, -5}, tiny[3] = {0, 0, 1e-9};
+    EXPECT_EQ(mathDerivFrame(o, z, along, &g), 0);
+    const double r[3] = {1, 0, 0};
+    EXPECT_EQ(mathDerivFrame(o, tiny, r, &g), 0);
+}
+
+TEST(FrameConversion, WorldLocalRoundTrips)
+{
+    const MathRFrame f = tiltedFrame();
+    const double p[3] = {0.25, 7.0, -3.5};
+    double local[3], back[3];
+    mathTransWorldPnt3D(&f, p, local);
+    mathTransLocalPnt3D(&f, local, back);
+    expectNear3(back, p, 1e-14);
+    // In place.
+    double q[3] = {p[0], p[1], p[2]};
+    mathTransWorldPnt3D(&f, q, q);
+    expectNear3(q, local, 0.0);
+
+    // The origin maps to zero, the tip of an axis to a unit coordinate.
+    double tip[3], l[3];
+    mathAddVec(f.origin, f.yAxis, 2.0, tip);
+    mathTransWorldPnt3D(&f, tip, l);
+    const double expected[3] = {0, 2, 0};
+    expectNear3(l, expected, 1e-15);
+
+    double vl[3], vw[3];
+    mathTransWorldVec3D(&f, p, vl);
+    mathTransLocalVec3D(&f, vl, vw);
+    expectNear3(vw, p, 1e-14);
+    EXPECT_NEAR(mathVecLen(vl), mathVecLen(p), 1e-14);
+
+    // The planar forms are the 3D ones with z = 0.
+    const double p2[2] = {3.0, -1.25};
+    const double p3[3] = {3.0, -1.25, 0.0};
+    double w2[3], w3[3], back2[2];
+    mathTransLocalPnt2D(&f, p2, w2);
+    mathTransLocalPnt3D(&f, p3, w3);
+    expectNear3(w2, w3, 0.0);
+    mathTransWorldPnt3DTo2D(&f, w2, back2);
+    EXPECT_NEAR(back2[0], p2[0], 1e-14);
+    EXPECT_NEAR(back2[1], p2[1], 1e-14);
+    mathTransLocalVec2D(&f, p2, w2);
+    mathTransLocalVec3D(&f, p3, w3);
+    expectNear3(w2, w3, 0.0);
+}
+
+TEST(FrameConversion, SeparateAxesAgreeWithTheRecord)
+{
+    const MathRFrame f = tiltedFrame();
+    const double p[3] = {-1.0, 2.5, 9.0};
+    double a[3], b[3];
+    EXPECT_EQ(mathTransWorldPnt3DByOXYZ(f.origin, f.xAxis, f.yAxis, f.zAxis, p, a), a);
+    mathTransWorldPnt3D(&f, p, b);
+    expectNear3(a, b, 0.0);
+    EXPECT_EQ(mathTransLocalPnt3DByOXYZ(f.origin, f.xAxis, f.yAxis, f.zAxis, a, b), b);
+    expectNear3(b, p, 1e-14);
+    EXPECT_EQ(mathTransWorldVec3DByXYZ(f.xAxis, f.yAxis, f.zAxis, p, a), a);
+    EXPECT_EQ(mathTransLocalVec3DByXYZ(f.xAxis, f.yAxis, f.zAxis, a, b), b);
+    expectNear3(b, p, 1e-14);
+    double q2[2];
+    EXPECT_EQ(mathTransWorldPnt3DTo2DByOXY(f.origin, f.xAxis, f.yAxis, p, q2), q2);
+    mathTransWorldPnt3D(&f, p, a);
+    EXPECT_EQ(q2[0], a[0]);
+    EXPECT_EQ(q2[1], a[1]);
+
+    // The plane frame: the y axis is x turned anticlockwise.
+    const double o[2] = {1, 1}, x[2] = {0.6, 0.8};
+    const double left[2] = {1 - 0.8, 1 + 0.6};
+    double l[2], w[2];
+    mathTransWorldPnt2DByOX(o, x, left, l);
+    EXPECT_NEAR(l[0], 0.0, 1e-15);
+    EXPECT_NEAR(l[1], 1.0, 1e-15);
+    const double pp[2] = {-4.0, 2.5};
+    mathTransWorldPnt2DByOX(o, x, pp, l);
+    mathTransLocalPnt2DByOX(o, x, l, w);
+    EXPECT_NEAR(w[0], pp[0], 1e-14);
+    EXPECT_NEAR(w[1], pp[1], 1e-14);
+}
+
+TEST(FrameConversion, HomogeneousPoints)
+{
+    const MathRFrame f = tiltedFrame();
+    double pts[12] = {1, 2, 3, 1, 2, 4, 6, 2, -1, 0.5, 3, -0.5};
+    double local[12], world[12];
+    ASSERT_EQ(mathTransWorldStr4D(3, &f, pts, local), 1);
+    ASSERT_EQ(mathTransLocalStr4D(3, &f, local, world), 1);
+    for (int i = 0; i < 12; ++i)
+        EXPECT_NEAR(world[i], pts[i], 1e-13);
+    // The first two points are the same Cartesian point.
+    EXPECT_NEAR(local[4] / local[7], local[0] / local[3], 1e-14);
+    EXPECT_EQ(local[11], -0.5);
+
+    // A point at infinity stops the conversion after the earlier points.
+    double bad[8] = {1, 2, 3, 1, 1, 1, 1, 1e-11};
+    double out[8] = {9, 9, 9, 9, 9, 9, 9, 9};
+    EXPECT_EQ(mathTransLocalStr4D(2, &f, bad, out), 0);
+    EXPECT_NE(out[0], 9.0);
+    EXPECT_EQ(out[4], 9.0);
+    EXPECT_EQ(mathTransLocalStr4D(0, &f, bad, out), 1);
+}
+
+TEST(FrameAlgebra, InverseProductAndRelativeFrame)
+{
+    const MathRFrame a = tiltedFrame();
+    const MathRFrame b = otherFrame();
+
+    MathRFrame rel;
+    mathEvalRFrame(&a, &a, &rel);
+    expectIdentity(rel, 1e-14);
+    mathEvalRFrame(&b, &b, &rel);
+    expectIdentity(rel, 1e-14);
+
+    MathRFrame inv, prod;
+    mathInvsRFrame(&a, &inv);
+    mathMultRFrame(&a, &inv, &prod);
+    expectIdentity(prod, 1e-14);
+    mathMultRFrame(&inv, &a, &prod);
+    expectIdentity(prod, 1e-14);
+
+    // b expressed in a, placed back inside a, is b again.
+    mathEvalRFrame(&a, &b, &rel);
+    mathMultRFrame(&a, &rel, &prod);
+    EXPECT_EQ(mathRFrameEqu(&prod, &b, 1e-12), 1);
+
+    // Local coordinates of b map through rel into a's local coordinates.
+    const double p[3] = {2.0, -1.0, 0.5};
+    double viaB[3], inA[3], viaRel[3];
+    mathTransLocalPnt3D(&b, p, viaB);
+    mathTransWorldPnt3D(&a, viaB, inA);
+    mathTransLocalPnt3D(&rel, p, viaRel);
+    expectNear3(viaRel, inA, 1e-13);
+
+    // The inverse takes world points to local ones.
+    double l1[3], l2[3];
+    mathTransWorldPnt3D(&a, p, l1);
+    mathTransLocalPnt3D(&inv, p, l2);
+    expectNear3(l1, l2, 1e-14);
+
+    // Aliased outputs.
+    MathRFrame c = a;
+    mathInvsRFrame(&c, &c);
+    EXPECT_EQ(mathRFrameEqu(&c, &inv, 0.0), 1);
+    mathMultRFrame(&a, &c, &c);
+    expectIdentity(c, 1e-14);
+    mathMultRFrame(nullptr, &a, &c); // ignored
+}
+
+TEST(FrameAlgebra, EqualityRotationAndArrays)
+{
+    const MathRFrame a = tiltedFrame();
+    MathRFrame b = a;
+    EXPECT_EQ(mathRFrameEqu(&a, &b, 1e-9), 1);
+    const double shift[3] = {0, 2e-3, 0};
+    mathMoveRFrame(shift, &b);
+    EXPECT_EQ(mathRFrameEqu(&a, &b, 1e-3), 0);
+    EXPECT_EQ(mathRFrameEqu(&a, &b, 3e-3), 1);
+
+    // A turn of 2e-3 about the frame's own z axis tilts x and y by that angle.
+    b = a;
+    mathRotateRFrame(a.zAxis, a.origin, 2e-3, &b);
+    expectNear3(b.origin, a.origin, 1e-15);
+    EXPECT_EQ(mathRFrameEqu(&a, &b, 1e-3), 0);
+    EXPECT_EQ(mathRFrameEqu(&a, &b, 3e-3), 1);
+
+    // A quarter turn about the world z axis through (1, 0, 0).
+    MathRFrame f;
+    mathInitRFrame(&f);
+    const double d[3] = {0, 0, 1}, q[3] = {1, 0, 0};
+    mathRotateRFrame(d, q, pi / 2, &f);
+    const double o[3] = {1, -1, 0}, x[3] = {0, 1, 0}, y[3] = {-1, 0, 0}, z[3] = {0, 0, 1};
+    expectNear3(f.origin, o, 1e-15);
+    expectNear3(f.xAxis, x, 1e-15);
+    expectNear3(f.yAxis, y, 1e-15);
+    expectNear3(f.zAxis, z, 1e-15);
+
+    MathRFrame** arr = mathNewRFrameStr(3);
+    ASSERT_NE(arr, nullptr);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(arr[i]->scale, 1.0);
+    mathFreRFrameStr(3, arr);
+    mathFreRFrameStr(3, nullptr);
+    EXPECT_EQ(mathNewRFrameStr(0), nullptr);
+}
+
+TEST(FrameMatrix, RowAndColumnForms)
+{
+    const MathRFrame f = tiltedFrame();
+    double col[16], row[16], row2[16];
+    mathGetMatrixFromRFrame(&f, col);
+    mathGetMatrixFromRFrame2(&f, row);
+    for (int i = 0; i < 4; ++i)
+        for (int j = 0; j < 4; ++j)
+            EXPECT_EQ(col[4 * i + j], row[4 * j + i]);
+    EXPECT_EQ(row[12], f.origin[0]);
+    EXPECT_EQ(col[3], f.origin[0]);
+    EXPECT_EQ(row[3], 0.0);
+    EXPECT_EQ(col[12], 0.0);
+    EXPECT_EQ(row[15], 1.0);
+    mathMatxGetRFrame(&f, row2);
+    for (int i = 0; i < 16; ++i)
+        EXPECT_EQ(row[i], row2[i]);
+
+    MathRFrame g;
+    mathGetRFrameFromMatrix(col, &g);
+    EXPECT_EQ(mathRFrameEqu(&f, &g, 0.0), 1);
+    EXPECT_EQ(g.scale, 1.0);
+
+    // Null pointers are ignored where documented.
+    double untouched[16] = {7};
+    mathGetMatrixFromRFrame(nullptr, untouched);
+    mathMatxGetRFrame(nullptr, untouched);
+    mathMatxWorldToRFrame(nullptr, untouched);
+    EXPECT_EQ(untouched[0], 7.0);
+    mathGetRFrameFromMatrix(nullptr, &g);
+    mathGetRFrameFromMatrix(col, nullptr);
+
+    // The row form applied to local coordinates gives world coordinates.
+    const double p[3] = {1, -2, 3};
+    double w1[3], w2[3];
+    mathMatxPnt3D(row, p, w1);
+    mathTransLocalPnt3D(&f, p, w2);
+    expectNear3(w1, w2, 1e-14);
+
+    // Products may overwrite an operand.
+    double a[16], b[16], c[16];
+    for (int i = 0; i < 16; ++i) {
+        a[i] = 0.5 * i - 3;
+        b[i] = (i * 7 % 5) - 1.5;
+    }
+    mathMatxMult4x4(a, b, c);
+    EXPECT_EQ(c[0], a[0] * b[0] + a[1] * b[4] + a[2] * b[8] + a[3] * b[12]);
+    double d[16];
+    mathMatxMult16(a, b, d);
+    mathMatxMult4x4(a, b, a);
+    for (int i = 0; i < 16; ++i) {
+        EXPECT_EQ(a[i], c[i]);
+        EXPECT_EQ(d[i], c[i]);
+    }
+}
+
+TEST(FrameMatrix, PointsVectorsAndMakers)
+{
+    const MathRFrame f = tiltedFrame();
+    double m[16];
+    mathMatxWorldToRFrame(&f, m);
+    const double p[3] = {4, 5, -6};
+    double a[3], b[3];
+    mathMatxPnt3D(m, p, a);
+    mathTransWorldPnt3D(&f, p, b);
+    expectNear3(a, b, 1e-14);
+    mathMatxVec3D(m, p, a);
+    mathTransWorldVec3D(&f, p, b);
+    expectNear3(a, b, 1e-14);
+
+    // Homogeneous points: weighted images; non-positive weights are skipped.
+    const double h[4] = {8, 10, -12, 2};
+    double hq[4];
+    mathMatxPnt4D(m, h, hq);
+    mathTransWorldPnt3D(&f, p, b);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_NEAR(hq[i], 2 * b[i], 1e-13);
+    EXPECT_EQ(hq[3], 2.0);
+    const double neg[4] = {-4, -5, 6, -1};
+    double keep[4] = {9, 9, 9, 9};
+    mathMatxPnt4D(m, neg, keep);
+    EXPECT_EQ(keep[0], 9.0);
+    EXPECT_EQ(keep[3], 9.0);
+
+    const double v[3] = {1, 2, 3};
+    mathMatxMove(v, m);
+    mathMatxPnt3D(m, p, a);
+    const double moved[3] = {5, 7, -3};
+    expectNear3(a, moved, 0.0);
+    mathMatxVec3D(m, p, a);
+    expectNear3(a, p, 0.0);
+
+    const double c[3] = {1, 1, 1}, s[3] = {2, 3, -1};
+    mathMatxScale(c, s, m);
+    mathMatxPnt3D(m, c, a);
+    expectNear3(a, c, 0.0);
+    mathMatxPnt3D(m, p, a);
+    const double scaled[3] = {7, 13, 8};
+    expectNear3(a, scaled, 1e-15);
+
+    // A quarter turn about the vertical line through (1, 1, 0).
+    const double axis[3] = {0, 0, 1}, at[3] = {1, 1, 0};
+    mathMatxRotate(axis, at, pi / 2, m);
+    const double r0[3] = {2, 1, 5}, r1[3] = {1, 2, 5};
+    mathMatxPnt3D(m, r0, a);
+    expectNear3(a, r1, 1e-15);
+
+    const double n[3] = {0, 0, 1}, onPlane[3] = {0, 0, 2};
+    mathMatxMirror(onPlane, n, m);
+    mathMatxPnt3D(m, p, a);
+    const double mirrored[3] = {4, 5, 10};
+    expectNear3(a, mirrored, 1e-14);
+    const double n2[3] = {std::sqrt(0.5), std::sqrt(0.5), 0};
+    mathMatxMirror(c, n2, m);
+    mathMatxPnt3D(m, p, a);
+    double expect[3];
+    mathMirPnt(c, n2, p, expect);
+    expectNear3(a, expect, 1e-14);
+}
+
+TEST(FrameMatrix, FramesThroughMatrices)
+{
+    const MathRFrame a = tiltedFrame();
+    const MathRFrame b = otherFrame();
+    double m[16];
+    EXPECT_EQ(mathMatxRFrameToRFrame(&a, &b, m), 0);
+    const double p[3] = {0.5, 1.5, -2.5};
+    double viaMatrix[3], world[3], inA[3];
+    mathMatxPnt3D(m, p, viaMatrix);
+    mathTransLocalPnt3D(&b, p, world);
+    mathTransWorldPnt3D(&a, world, inA);
+    expectNear3(viaMatrix, inA, 1e-13);
+
+    // Taking a frame through the world-to-local matrix of itself gives the
+    // identity; through a rotation, the rotated frame.
+    MathRFrame out;
+    mathMatxWorldToRFrame(&a, m);
+    mathMatxRFrame(m, &a, &out);
+    expectIdentity(out, 1e-14);
+
+    const double axis[3] = {0, 0, 1}, at[3] = {0, 0, 0};
+    mathMatxRotate(axis, at, 0.7, m);
+    mathMatxRFrame(m, &b, &out);
+    MathRFrame turned = b;
+    mathRotateRFrame(axis, at, 0.7, &turned);
+    EXPECT_EQ(mathRFrameEqu(&out, &turned, 1e-12), 1);
+
+    // A matrix that flattens y onto x leaves the z axis as it was.
+    double flat[16] = {1, 0, 0, 0, 1, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+    MathRFrame id;
+    mathInitRFrame(&id);
+    out.zAxis[0] = 42;
+    mathMatxRFrame(flat, &id, &out);
+    EXPECT_EQ(out.zAxis[0], 42.0);
+    EXPECT_EQ(out.yAxis[0], 1.0);
+}
+
+TEST(GravityFrame, TetrahedronAndBarycentricRoundTrip)
+{
+    const double p0[3] = {0, 0, 0}, p1[3] = {1, 0, 0}, p2[3] = {0, 1, 0};
+    MathGFrame g;
+    ASSERT_EQ(mathGetGFrame3Pnt(p0, p1, p2, &g), 1);
+    EXPECT_DOUBLE_EQ(g.p3[0], 1.0 / 3.0);
+    EXPECT_DOUBLE_EQ(g.p3[1], 1.0 / 3.0);
+    EXPECT_DOUBLE_EQ(g.p3[2], 1.0);
+    EXPECT_DOUBLE_EQ(g.volume, 1.0 / 6.0);
+    EXPECT_NEAR(mathCalPyramidVolume(g.p0, g.p1, g.p2, g.p3), g.volume, 1e-15);
+
+    double b[3];
+    mathTransRectaPnt3D(&g, p0, b);
+    EXPECT_NEAR(b[0], 1.0, 1e-15);
+    EXPECT_NEAR(b[1], 0.0, 1e-15);
+    EXPECT_NEAR(b[2], 0.0, 1e-15);
+
+    // A scaled, tilted base: Cartesian -> barycentric -> Cartesian.
+    const double q0[3] = {1, 2, 3}, q1[3] = {4, -1, 2}, q2[3] = {0, 5, -2};
+    ASSERT_EQ(mathGetGFrame3Pnt(q0, q1, q2, &g), 1);
+    EXPECT_NEAR(mathCalPyramidVolume(g.p0, g.p1, g.p2, g.p3), g.volume, 1e-12);
+    const double p[3] = {7, -3, 0.5};
+    double back[3];
+    mathTransRectaPnt3D(&g, p, b);
+    mathTransGraviPnt3D(&g, b, back);
+    expectNear3(back, p, 1e-12);
+    mathTransGraviPnt3D(&g, b, b);
+    expectNear3(b, p, 1e-12);
+
+    double pts[8] = {2, 4, 6, 2, 1, 1, 1, 1};
+    double bary[8], cart[8];
+    ASSERT_EQ(mathTransRectaStr4D(2, &g, pts, bary), 1);
+    ASSERT_EQ(mathTransGraviStr4D(2, &g, bary, cart), 1);
+    for (int i = 0; i < 8; ++i)
+        EXPECT_NEAR(cart[i], pts[i], 1e-12);
+    EXPECT_EQ(mathTransGraviStr4D(-1, &g, pts, cart), 1);
+
+    // Collinear points: the base is stored, nothing else.
+    const double c2[3] = {2, 0, 0};
+    MathGFrame h;
+    h.volume = 42;
+    EXPECT_EQ(mathGetGFrame3Pnt(p0, p1, c2, &h), 0);
+    EXPECT_EQ(h.p2[0], 2.0);
+    EXPECT_EQ(h.volume, 42.0);
+    h.volume = 0;
+    mathTransRectaPnt3D(&h, p, b);
+    EXPECT_EQ(b[0], 1.0);
+    EXPECT_EQ(b[1], 0.0);
+    EXPECT_EQ(b[2], 0.0);
+}
+
+} // namespace
