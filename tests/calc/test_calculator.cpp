@@ -1,0 +1,398 @@
+#include <korvex/classes.hpp>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+#include <vector>
+
+namespace {
+
+const double degree = 0.01745329251994333;
+const double toDegrees = 57.29577951308232;
+
+struct Parsed {
+    bool inputOk;
+    bool computeOk;
+    double result;
+    int error;
+    int site;
+};
+
+Parsed Evaluate(Calculator& calc, std::string text)
+{
+    std::vector<char> buffer(text.begin(), text.end());
+    buffer.push_back('\0');
+    Parsed p{};
+    p.inputOk = calc.Input(buffer.data());
+    p.computeOk = p.inputOk && calc.Compute();
+    p.result = calc.GetResult();
+    p.error = calc.GetErrorID();
+    p.site = calc.GetErrorLineNo();
+    return p;
+}
+
+Parsed Evaluate(std::string text)
+{
+    Calculator calc;
+    return Evaluate(calc, text);
+}
+
+} // namespace
+
+TEST(Calculator, EvaluatesOperatorsWithTheirPrecedenceAndAssociativity)
+{
+    struct Case {
+        const char* text;
+        double expected;
+    };
+    const Case cases[] = {
+        {"2^3^2", 512.0},        // power is right-associative
+        {"2*3+4", 10.0},
+        {"2+3*4", 14.0},
+        {"(1+2)*3", 9.0},
+        {"2-3-4", -5.0},         // minus and divide are left-associative
+        {"24/4/2", 3.0},
+        {"2*3^2", 18.0},
+        {"2^3*2", 16.0},
+        {"1 + 2 * 3 - 4 / 2", 5.0},
+        {"((2))", 2.0},
+        {"-2^2", 4.0},           // the sign belongs to the literal
+        {"-(2)^2", 4.0},         // a unary sign binds tighter than "^" on its right
+        {"2^-1", 0.5},
+        {"2--3", 5.0},
+        {"2*-3", -6.0},
+        {"(-3)", -3.0},
+        {"--3", 3.0},
+        {"+5", 5.0},
+        {"-(1+2)", -3.0},
+        {"1.2.3", 1.2},          // the conversion stops at the second point
+        {".5+.5", 1.0},
+        {"2 3", 23.0},           // blanks are dropped before parsing
+        {"1,5 + 1", 16.0},       // so are commas
+        {"\t7\n", 7.0},
+    };
+    for (const Case& c : cases) {
+        const Parsed p = Evaluate(c.text);
+        EXPECT_TRUE(p.inputOk && p.computeOk) << c.text;
+        EXPECT_EQ(p.error, 0) << c.text;
+        EXPECT_DOUBLE_EQ(p.result, c.expected) << c.text;
+    }
+}
+
+TEST(Calculator, FunctionsWorkInDegreesExceptCot)
+{
+    struct Case {
+        const char* text;
+        double expected;
+    };
+    const Case cases[] = {
+        {"sin(30)", std::sin(30 * degree)},
+        {"SiN(30)", std::sin(30 * degree)},
+        {"cos(60)", std::cos(60 * degree)},
+        {"tan(45)", std::tan(45 * degree)},
+        {"SIN(30)^2", std::pow(std::sin(30 * degree), 2)},
+        {"sin(30)*2", 2 * std::sin(30 * degree)},
+        {"-sin(30)", -std::sin(30 * degree)},
+        {"cot(1)", 1.0 / std::tan(1.0)},  // radians
+        {"sqr(-9)", 3.0},                 // the root of |x|, not the square
+        {"sqrt(-16)", 4.0},
+        {"log10(1000)", 3.0},
+        {"log(exp(2))", 2.0},
+        {"abs(-4)", 4.0},
+        {"int(-2.5)", -3.0},
+        {"int(2.7)", 2.0},
+        {"arcsin(0.5)", std::asin(0.5) * toDegrees},
+        {"arcsin(2)", 90.0},
+        {"arcsin(-1)", -90.0},
+        {"arccos(0.5)", std::acos(0.5) * toDegrees},
+        {"arccos(1)", 0.0},
+        {"arccos(-2)", 3.141592653589793},  // radians, not 180
+        {"arctan(1)", std::atan(1.0) * toDegrees},
+        {"sinh(1)", std::sinh(1.0)},
+        {"cosh(0)", 1.0},
+        {"tanh(1)", std::tanh(1.0)},
+    };
+    for (const Case& c : cases) {
+        const Parsed p = Evaluate(c.text);
+        EXPECT_TRUE(p.inputOk && p.computeOk) << c.text;
+        EXPECT_DOUBLE_EQ(p.result, c.expected) << c.text;
+    }
+    // The degree factor is the calculator's own, slightly above pi/180.
+    EXPECT_NE(Evaluate("sin(30)").result, 0.5);
+}
+
+TEST(Calculator, VariablesAreCollectedAndReassigned)
+{
+    Calculator calc;
+    char text[] = "a+b*a";
+    ASSERT_TRUE(calc.Input(text));
+    EXPECT_STREQ(text, "A+B*A");  // the caller's buffer is upper-cased
+    ASSERT_EQ(calc.GetNumberOfVariables(), 2);
+    EXPECT_STREQ(calc.GetVariableName(0), "A");
+    EXPECT_STREQ(calc.GetVariableName(1), "B");
+    EXPECT_EQ(calc.GetVariableName(2), nullptr);
+    EXPECT_EQ(calc.GetVariableName(-1), nullptr);
+
+    double v1[] = {1, 2};
+    calc.Assign(v1);
+    ASSERT_TRUE(calc.Compute());
+    EXPECT_EQ(calc.GetResult(), 3.0);
+    double v2[] = {5, 5};
+    calc.Assign(v2);
+    ASSERT_TRUE(calc.Compute());
+    EXPECT_EQ(calc.GetResult(), 30.0);
+    ASSERT_TRUE(calc.Compute());  // the postfix form survives evaluation
+    EXPECT_EQ(calc.GetResult(), 30.0);
+
+    // Names are upper-cased, may hold digits, and a function name followed
+    // by digits is a variable.
+    char mixed[] = "Ab_1 + aB1 + sin30 + -x^2";
+    ASSERT_TRUE(calc.Input(mixed));
+    ASSERT_EQ(calc.GetNumberOfVariables(), 3);
+    EXPECT_STREQ(calc.GetVariableName(0), "AB1");
+    EXPECT_STREQ(calc.GetVariableName(1), "SIN30");
+    EXPECT_STREQ(calc.GetVariableName(2), "X");
+    double v3[] = {1, 10, 3};
+    calc.Assign(v3);
+    ASSERT_TRUE(calc.Compute());
+    EXPECT_EQ(calc.GetResult(), 1 + 1 + 10 + 9);  // -X^2 is (-X)^2
+
+    // A new Input discards the variables and their values.
+    char constant[] = "4";
+    ASSERT_TRUE(calc.Input(constant));
+    EXPECT_EQ(calc.GetNumberOfVariables(), 0);
+
+    // Longest name and most variables accepted.
+    const std::string name29(29, 'Q');
+    std::string fifteen = "A";
+    for (char c = 'B'; c <= 'O'; ++c)
+        fifteen += std::string("+") + c;
+    EXPECT_TRUE(Evaluate(calc, name29).inputOk);
+    EXPECT_STREQ(calc.GetVariableName(0), name29.c_str());
+    EXPECT_TRUE(Evaluate(calc, fifteen).inputOk);
+    EXPECT_EQ(calc.GetNumberOfVariables(), 15);
+}
+
+TEST(Calculator, ParseErrorsCarryTheirIdAndSite)
+{
+    struct Case {
+        std::string text;
+        int error;
+        int site;
+    };
+    std::string sixteen = "A";
+    for (char c = 'B'; c <= 'P'; ++c)
+        sixteen += std::string("+") + c;
+    const Case cases[] = {
+        {"", 2, 326},
+        {" \t\n", 2, 326},       // nothing left after filtering
+        {"1+", 2, 326},
+        {"()", 2, 326},
+        {"2X", 3, 209},          // a new variable right after an operand
+        {"A*2A", 3, 195},        // a known one
+        {"(1)2", 3, 257},        // a number right after an operand
+        {"X(2)", 3, 257},
+        {"*2", 7, 177},
+        {"2*/3", 7, 177},
+        {"^2", 7, 177},
+        {"1+2)", 4, 360},
+        {"(1+2", 5, 380},
+        {"2*(3", 5, 380},
+        {std::string(30, 'Q'), 11, 148},
+        {sixteen, 10, 214},
+    };
+    for (const Case& c : cases) {
+        Calculator calc;
+        const Parsed p = Evaluate(calc, c.text);
+        EXPECT_FALSE(p.inputOk) << c.text;
+        EXPECT_EQ(p.error, c.error) << c.text;
+        EXPECT_EQ(p.site, c.site) << c.text;
+        EXPECT_STREQ(calc.GetErrorMessage(calc.GetErrorID()), calc.GetErrorMessage(c.error));
+    }
+}
+
+TEST(Calculator, LengthLimitCountsTheRawText)
+{
+    // 249 times "1+" and "11": 500 characters, accepted.
+    std::string text;
+    for (int i = 0; i < 249; ++i)
+        text += "1+";
+    text += "11";
+    ASSERT_EQ(text.size(), 500u);
+    Parsed p = Evaluate(text);
+    EXPECT_TRUE(p.inputOk && p.computeOk);
+    EXPECT_EQ(p.result, 260.0);
+
+    p = Evaluate(text + "1");
+    EXPECT_FALSE(p.inputOk);
+    EXPECT_EQ(p.error, 1);
+    EXPECT_EQ(p.site, 394);
+
+    // Characters that filtering would drop still count.
+    p = Evaluate(std::string(500, ' ') + "1");
+    EXPECT_EQ(p.error, 1);
+    EXPECT_TRUE(Evaluate(std::string(499, ' ') + "1").inputOk);
+
+    // A null text reads as an empty one.
+    Calculator calc;
+    EXPECT_FALSE(calc.Input(nullptr));
+    EXPECT_EQ(calc.GetErrorID(), 2);
+}
+
+TEST(Calculator, EvaluationErrors)
+{
+    // Division by zero does not stop the evaluation: the quotient is 0.
+    Parsed p = Evaluate("1/0");
+    EXPECT_TRUE(p.computeOk);
+    EXPECT_EQ(p.result, 0.0);
+    EXPECT_EQ(p.error, 6);
+    EXPECT_EQ(p.site, 420);
+    p = Evaluate("1/0+5");
+    EXPECT_TRUE(p.computeOk);
+    EXPECT_EQ(p.result, 5.0);
+    EXPECT_EQ(p.error, 6);
+
+    // The error stays until the next Input or Clear.
+    Calculator calc;
+    char text[] = "1/x";
+    ASSERT_TRUE(calc.Input(text));
+    double zero = 0.0, one = 1.0;
+    calc.Assign(&zero);
+    EXPECT_TRUE(calc.Compute());
+    EXPECT_EQ(calc.GetErrorID(), 6);
+    calc.Assign(&one);
+    EXPECT_TRUE(calc.Compute());
+    EXPECT_EQ(calc.GetResult(), 1.0);
+    EXPECT_EQ(calc.GetErrorID(), 6);
+    calc.Clear();
+    EXPECT_EQ(calc.GetErrorID(), 0);
+    EXPECT_EQ(calc.GetResult(), 0.0);
+    EXPECT_EQ(calc.GetNumberOfVariables(), 0);
+
+    // Nothing to evaluate.
+    Calculator empty;
+    EXPECT_FALSE(empty.Compute());
+    EXPECT_EQ(empty.GetErrorID(), 9);
+    EXPECT_EQ(empty.GetErrorLineNo(), 537);
+    char bad[] = "2X";
+    EXPECT_FALSE(empty.Input(bad));
+    EXPECT_FALSE(empty.Compute());
+    EXPECT_EQ(empty.GetErrorLineNo(), 537);
+
+    // An unclosed parenthesis stops the conversion at it, so the operators
+    // below it are missing and two values remain.
+    Calculator partial;
+    char open[] = "1+(2+3";
+    EXPECT_FALSE(partial.Input(open));
+    EXPECT_FALSE(partial.Compute());
+    EXPECT_EQ(partial.GetErrorID(), 3);
+    EXPECT_EQ(partial.GetErrorLineNo(), 532);
+    EXPECT_EQ(partial.GetResult(), 5.0);
+}
+
+TEST(Calculator, StrayClosingParenthesisWithNothingOpenIsCarriedThrough)
+{
+    // A ")" that meets an empty operator stack is stacked like any operator
+    // and does nothing when evaluated; only one that has to pop an operator
+    // first reports the missing "(".
+    Parsed p = Evaluate("(1+2))");
+    EXPECT_TRUE(p.inputOk && p.computeOk);
+    EXPECT_EQ(p.result, 3.0);
+    EXPECT_EQ(Evaluate("2)").result, 2.0);
+    EXPECT_EQ(Evaluate("1*2)").site, 360);
+}
+
+TEST(Calculator, ErrorMessages)
+{
+    const Calculator calc;
+    const char* const expected[] = {
+        "no errors", "expression too long", "missing operand", "missing operator",
+        "missing left parenthesis", "missing right paraenthesis", "devide by zero",
+        "unknown operator", "invalid operator", "unknown error", "too many variables",
+        "variable's name too long",
+    };
+    for (int id = 0; id < 12; ++id)
+        EXPECT_STREQ(calc.GetErrorMessage(id), expected[id]);
+    EXPECT_STREQ(calc.GetErrorMessage(-1), "UNKNOWN ERROR ID!!!");
+    EXPECT_STREQ(calc.GetErrorMessage(12), "UNKNOWN ERROR ID!!!");
+}
+
+TEST(CalculatorDeathTest, ContainerFaultsEndTheProcess)
+{
+    const Token token = {0, 0, 0, 1.0};
+    EXPECT_EXIT(
+        {
+            TokenQueue q;
+            for (int i = 0; i <= TokenQueue::capacity; ++i)
+                q.Enqueue(token);
+        },
+        testing::ExitedWithCode(1), "^Queue overflow!\n$");
+    EXPECT_EXIT(
+        {
+            TokenQueue q;
+            q.Enqueue(token);
+            q.Dequeue();
+            q.Dequeue();
+        },
+        testing::ExitedWithCode(1), "^Deleting from an empty queue!\n$");
+    EXPECT_EXIT(
+        {
+            TokenStack s;
+            for (int i = 0; i <= TokenStack::capacity; ++i)
+                s.Push(token);
+        },
+        testing::ExitedWithCode(1), "^Stack overflow!\n$");
+    EXPECT_EXIT(
+        {
+            TokenStack s;
+            s.Pop();
+        },
+        testing::ExitedWithCode(1), "^Attempt to pop an empty stack!\n$");
+    EXPECT_EXIT(
+        {
+            TokenStack s;
+            s.Peek();
+        },
+        testing::ExitedWithCode(1), "^Attempt to peek at an empty stack!\n$");
+    EXPECT_EXIT(
+        {
+            ValueStack s;
+            for (int i = 0; i <= ValueStack::capacity; ++i)
+                s.Push(1.0);
+        },
+        testing::ExitedWithCode(1), "^Stack overflow!\n$");
+    EXPECT_EXIT(
+        {
+            ValueStack s;
+            s.Push(1.0);
+            s.Pop();
+            s.Pop();
+        },
+        testing::ExitedWithCode(1), "^Attempt to pop an empty stack!\n$");
+    EXPECT_EXIT(
+        {
+            ValueStack s;
+            s.Peek();
+        },
+        testing::ExitedWithCode(1), "^Attempt to peek at an empty stack!\n$");
+}
+
+TEST(Calculator, QueueWrapsAround)
+{
+    TokenQueue q;
+    Token token = {0, 0, 0, 0.0};
+    for (int round = 0; round < 3; ++round) {
+        for (int i = 0; i < 700; ++i) {
+            token.value = i;
+            q.Enqueue(token);
+        }
+        EXPECT_EQ(q.At(699).value, 699.0);
+        for (int i = 0; i < 700; ++i)
+            ASSERT_EQ(q.Dequeue().value, i);
+        EXPECT_TRUE(q.IsEmpty());
+    }
+    for (int i = 0; i < TokenQueue::capacity; ++i)
+        q.Enqueue(token);
+    EXPECT_TRUE(q.IsFull());
+}
