@@ -1,2 +1,4 @@
 korvex_test_sources(numeric
+  poly_test.cpp
+  quartic_test.cpp
 )

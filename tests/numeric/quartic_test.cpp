@@ -1,0 +1,272 @@
+#include <korvex/capi.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <vector>
+
+namespace {
+
+// Coefficients of prod (x - r), highest degree first.
+std::vector<double> fromRoots(const std::vector<double>& roots)
+{
+    std::vector<double> c{1.0};
+    for (double r : roots) {
+        std::vector<double> next(c.size() + 1, 0.0);
+        for (size_t i = 0; i < c.size(); ++i) {
+            next[i] += c[i];
+            next[i + 1] -= r * c[i];
+        }
+        c = next;
+    }
+    return c;
+}
+
+void expectRoots(std::vector<double> got, std::vector<double> want, double relTol)
+{
+    ASSERT_EQ(got.size(), want.size());
+    std::sort(got.begin(), got.end());
+    std::sort(want.begin(), want.end());
+    for (size_t i = 0; i < got.size(); ++i)
+        EXPECT_NEAR(got[i], want[i], relTol * std::max(1.0, std::fabs(want[i]))) << "root " << i;
+}
+
+std::vector<double> quartic(const std::vector<double>& roots, double tol = 1e-12)
+{
+    const std::vector<double> c = fromRoots(roots);
+    double x[4];
+    const int k = mathSolQuarEqua(c.data(), tol, x);
+    return std::vector<double>(x, x + (k <= 4 ? k : 0));
+}
+
+// Roots through the companion matrix, real parts only (all roots real).
+std::vector<double> companion(const std::vector<double>& roots)
+{
+    std::vector<double> c = fromRoots(roots);
+    std::reverse(c.begin(), c.end());
+    const int n = static_cast<int>(roots.size());
+    std::vector<double> wr(n), wi(n);
+    int m = -1;
+    EXPECT_EQ(mathSlvequN(c.data(), n, wr.data(), wi.data(), &m, 1e-15, 60), 1);
+    EXPECT_EQ(m, n);
+    for (double im : wi)
+        EXPECT_EQ(im, 0.0);
+    return wr;
+}
+
+} // namespace
+
+TEST(PolyQuartic, FactorPairsAndDegenerateForms)
+{
+    const double c1[5] = {1, 0, -5, 0, 4};
+    double x[4];
+    ASSERT_EQ(mathSolQuarEqua(c1, 1e-9, x), 4);
+    // Each quadratic factor in turn, larger magnitude first.
+    EXPECT_NEAR(x[0], -2.0, 1e-14);
+    EXPECT_NEAR(x[1], -1.0, 1e-14);
+    EXPECT_NEAR(x[2], 2.0, 1e-14);
+    EXPECT_NEAR(x[3], 1.0, 1e-14);
+
+    // (x^2 + 1)(x - 1)(x - 3): only the real factor contributes.
+    const double c2[5] = {1, -4, 4, -4, 3};
+    ASSERT_EQ(mathSolQuarEqua(c2, 1e-9, x), 2);
+    expectRoots({x[0], x[1]}, {1, 3}, 1e-12);
+
+    // A double root counts once.
+    expectRoots(quartic({1, 1, 2, 3}), {1, 2, 3}, 1e-7);
+
+    const double none[5] = {1, 0, 0, 0, 1};
+    EXPECT_EQ(mathSolQuarEqua(none, 1e-9, x), 0);
+    // x^4 + 5x^2 + 4: the resolvent's largest root gives R = 0, and the
+    // method gives up (no real roots anyway).
+    const double flatSplit[5] = {1, 0, 5, 0, 4};
+    EXPECT_EQ(mathSolQuarEqua(flatSplit, 1e-9, x), 0);
+
+    const double cubic[5] = {0, 1, -6, 11, -6};
+    ASSERT_EQ(mathSolQuarEqua(cubic, 1e-9, x), 3);
+    EXPECT_NEAR(x[0], 3.0, 1e-12);
+    const double zero[5] = {0, 0, 0, 0, 0};
+    EXPECT_EQ(mathSolQuarEqua(zero, 1e-9, x), 100);
+}
+
+TEST(PolyQuartic, AccuracyOnKnownRoots)
+{
+    expectRoots(quartic({1, 2, 3, 4}), {1, 2, 3, 4}, 1e-13);
+    expectRoots(quartic({0.1, 0.2, 5, 7}), {0.1, 0.2, 5, 7}, 1e-13);
+    expectRoots(quartic({-3, -0.5, 0.25, 8}), {-3, -0.5, 0.25, 8}, 1e-12);
+    // Widely scaled roots: the small ones lose digits to cancellation.
+    expectRoots(quartic({1e-3, 1, 10, 1e3}), {1e-3, 1, 10, 1e3}, 1e-9);
+    // Clustered roots: the closed form is only good to a few 1e-7.
+    expectRoots(quartic({1, 1.01, 1.02, 1.03}), {1, 1.01, 1.02, 1.03}, 2e-6);
+
+    // Pseudo-random well-separated roots in [-10, 10].
+    uint32_t seed = 12345;
+    auto next = [&seed] {
+        seed = seed * 1664525u + 1013904223u;
+        return (seed >> 8) / double(1 << 24) * 20.0 - 10.0;
+    };
+    for (int trial = 0; trial < 200; ++trial) {
+        std::vector<double> r{next(), next(), next(), next()};
+        std::sort(r.begin(), r.end());
+        if (r[1] - r[0] < 0.2 || r[2] - r[1] < 0.2 || r[3] - r[2] < 0.2)
+            continue;
+        expectRoots(quartic(r), r, 1e-9);
+    }
+}
+
+TEST(PolyComplexFamily, CubicOrdersAndQuirks)
+{
+    double wr[3], wi[3];
+    int n = 0;
+    mathSlvequ3(1, -6, 11, -6, wr, wi, &n);
+    ASSERT_EQ(n, 3);
+    EXPECT_NEAR(wr[0], 3.0, 1e-12);
+    EXPECT_NEAR(wr[1], 2.0, 1e-12);
+    EXPECT_NEAR(wr[2], 1.0, 1e-12);
+    EXPECT_EQ(wi[0], 0.0);
+
+    // One real root first, then the conjugate pair.
+    mathSlvequ3(2, 0, 0, -2, wr, wi, &n);
+    ASSERT_EQ(n, 3);
+    EXPECT_NEAR(wr[0], 1.0, 1e-14);
+    EXPECT_NEAR(wr[1], -0.5, 1e-14);
+    EXPECT_NEAR(wi[1], 0.8660254037844386, 1e-14);
+    EXPECT_EQ(wi[2], -wi[1]);
+
+    // (x + 1)^3 + 1e-3: the depressed form has no linear term and the real
+    // root comes back without its shift of -1; the pair is right.
+    mathSlvequ3(1, 3, 3, 1 + 1e-3, wr, wi, &n);
+    ASSERT_EQ(n, 3);
+    EXPECT_NEAR(wr[0], -0.1, 1e-12);
+    EXPECT_NEAR(wr[1], -0.95, 1e-12);
+    EXPECT_NEAR(wi[1], -0.1 * 0.8660254037844386, 1e-12);
+    // Triple root.
+    mathSlvequ3(1, 3, 3, 1, wr, wi, &n);
+    EXPECT_EQ(wr[0], -1.0);
+    EXPECT_EQ(wr[2], -1.0);
+
+    // Degenerate leading terms: the linear step solves c x = d, unflipped.
+    mathSlvequ3(0, 0, 2, 4, wr, wi, &n);
+    ASSERT_EQ(n, 1);
+    EXPECT_EQ(wr[0], 2.0);
+    mathSlvequ3(0, 1, 0, 1, wr, wi, &n);
+    ASSERT_EQ(n, 2);
+    EXPECT_EQ(wr[0], 0.0);
+    EXPECT_EQ(std::fabs(wi[0]), 1.0);
+
+    double roots[3];
+    mathSlvequR3(1, -6, 11, -6, roots, &n);
+    ASSERT_EQ(n, 3);
+    mathSlvequR3(2, 0, 0, -2, roots, &n);
+    ASSERT_EQ(n, 1);
+    EXPECT_NEAR(roots[0], 1.0, 1e-14);
+    mathSlvequR3(0, 1, -3, 2, roots, &n); // degenerate: the quadratic's real roots
+    ASSERT_EQ(n, 2);
+}
+
+TEST(PolyComplexFamily, QuarticPairsAndRealFilter)
+{
+    double wr[4], wi[4];
+    int n = 0;
+    const double r = 0.7071067811865476;
+    mathSlvequ4(1, 0, 0, 0, 1, wr, wi, &n);
+    ASSERT_EQ(n, 4);
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_NEAR(std::fabs(wr[i]), r, 1e-14);
+        EXPECT_NEAR(std::fabs(wi[i]), r, 1e-14);
+    }
+    EXPECT_EQ(wi[1], -wi[0]);
+    EXPECT_EQ(wi[3], -wi[2]);
+
+    for (const std::vector<double>& roots :
+         {std::vector<double>{1, 2, 3, 4}, {-2, -1, 1, 2}, {1e-3, 1, 10, 1e3}, {0.1, 0.2, 5, 7}}) {
+        const std::vector<double> c = fromRoots(roots);
+        mathSlvequ4(c[0], c[1], c[2], c[3], c[4], wr, wi, &n);
+        ASSERT_EQ(n, 4);
+        expectRoots({wr[0], wr[1], wr[2], wr[3]}, roots, 1e-9);
+        double fr[4];
+        mathSlvequR4(c[0], c[1], c[2], c[3], c[4], fr, &n);
+        ASSERT_EQ(n, 4);
+    }
+
+    // (x^2 + 1)(x^2 - 4): one real pair.
+    double fr[4];
+    mathSlvequR4(1, 0, -3, 0, -4, fr, &n);
+    ASSERT_EQ(n, 2);
+    expectRoots({fr[0], fr[1]}, {-2, 2}, 1e-14);
+    mathSlvequR4(1, 0, 0, 0, 1, fr, &n);
+    EXPECT_EQ(n, 0);
+    // Negligible leading coefficient: the cubic's real roots.
+    mathSlvequR4(0, 1, -6, 11, -6, fr, &n);
+    ASSERT_EQ(n, 3);
+    expectRoots({fr[0], fr[1], fr[2]}, {1, 2, 3}, 1e-12);
+}
+
+TEST(PolyCompanion, DegreeReductionAndAccuracy)
+{
+    // Trailing coefficients below 1e-10 lower the degree.
+    const double c[6] = {-6, 11, -6, 1, 0, 1e-12};
+    double wr[5], wi[5];
+    int m = 0;
+    ASSERT_EQ(mathSlvequN(c, 5, wr, wi, &m, 1e-15, 60), 1);
+    ASSERT_EQ(m, 3);
+    expectRoots({wr[0], wr[1], wr[2]}, {1, 2, 3}, 1e-13);
+
+    // A constant has no roots; that is a success.
+    const double k[2] = {5, 0};
+    EXPECT_EQ(mathSlvequN(k, 1, wr, wi, &m, 1e-15, 60), 1);
+    EXPECT_EQ(m, 0);
+
+    // x^4 - 1: the companion matrix is a cyclic permutation, on which the
+    // plain shifts stall.
+    const double unit[5] = {-1, 0, 0, 0, 1};
+    ASSERT_EQ(mathSlvequN(unit, 4, wr, wi, &m, 1e-15, 60), 1);
+    int real = 0;
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_NEAR(std::hypot(wr[i], wi[i]), 1.0, 1e-13);
+        if (wi[i] == 0.0) {
+            ++real;
+        } else if (wi[i] < 0.0) {
+            EXPECT_EQ(wi[i + 1], -wi[i]); // a pair: negative part first
+        }
+    }
+    EXPECT_EQ(real, 2);
+
+    expectRoots(companion({1, 2, 3, 4, 5, 6, 7, 8}), {1, 2, 3, 4, 5, 6, 7, 8}, 1e-10);
+    expectRoots(companion({1e-4, 2e-4, 1e4, 2e4}), {1e-4, 2e-4, 1e4, 2e4}, 1e-12);
+    expectRoots(companion({1, 1.01, 1.02, 1.03}), {1, 1.01, 1.02, 1.03}, 1e-9);
+    expectRoots(companion({-7.5, -0.3, 0.02, 1.5, 4, 90}), {-7.5, -0.3, 0.02, 1.5, 4, 90}, 1e-10);
+}
+
+TEST(PolyCompanion, HessenbergEigenvalues)
+{
+    double wr[3] = {9, 9, 9}, wi[3] = {9, 9, 9};
+    EXPECT_EQ(mathHQR(nullptr, 0, wr, wi, 1e-15, 30), 1);
+    EXPECT_EQ(wr[0], 9.0);
+
+    // Upper triangular: the diagonal, found from the bottom up.
+    double t[9] = {2, 5, 7, 0, -1, 3, 0, 0, 4};
+    ASSERT_EQ(mathHQR(t, 3, wr, wi, 1e-15, 30), 1);
+    EXPECT_EQ(wr[0], 2.0);
+    EXPECT_EQ(wr[1], -1.0);
+    EXPECT_EQ(wr[2], 4.0);
+
+    // Rotation block: the pair 1 +- 2i.
+    double rot[4] = {1, -2, 2, 1};
+    ASSERT_EQ(mathHQR(rot, 2, wr, wi, 1e-15, 30), 1);
+    EXPECT_EQ(wr[0], 1.0);
+    EXPECT_EQ(wr[1], 1.0);
+    EXPECT_EQ(wi[0], -2.0);
+    EXPECT_EQ(wi[1], 2.0);
+
+    // A full Hessenberg matrix needs sweeps: none allowed fails.
+    double h[9] = {4, 1, 2, 1, 3, 1, 0, 1, 2};
+    double g[9];
+    std::copy(h, h + 9, g);
+    EXPECT_EQ(mathHQR(h, 3, wr, wi, 1e-15, 0), 0);
+    ASSERT_EQ(mathHQR(g, 3, wr, wi, 1e-15, 30), 1);
+    // Trace and determinant of the original matrix are preserved.
+    EXPECT_NEAR(wr[0] + wr[1] + wr[2], 9.0, 1e-12);
+    EXPECT_NEAR(wr[0] * wr[1] * wr[2], 4 * 3 * 2 - 4 * 1 - 1 * 2 + 2 * 1, 1e-11);
+}
