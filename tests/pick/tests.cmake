@@ -1,2 +1,3 @@
 korvex_test_sources(pick
+  test_pick.cpp
 )
