@@ -1,0 +1,77 @@
+// Failure injection and accounting for the library's non-throwing array
+// allocations. Include in exactly one source file of a test program: it
+// replaces the program's global nothrow operator new[] and operator
+// delete[] (the library's calls bind to them too). Unarmed, they forward to
+// the ordinary allocator and only count the live arrays.
+//
+// Tools that replace the allocator themselves (valgrind) take these
+// replacements over; arrayAllocationFailureWorks() then reports false and
+// the tests skip instead of failing.
+#ifndef KORVEX_TESTS_FAILING_ALLOCATION_H
+#define KORVEX_TESTS_FAILING_ALLOCATION_H
+
+#include <cstddef>
+#include <cstdlib>
+#include <new>
+
+#include <korvex/capi.h>
+
+namespace {
+
+int allocationsUntilFailure = 0; // 0: never fail
+int liveArrays = 0;              // nothrow arrays made and not yet released
+
+// The n-th nothrow array allocation from now on (n >= 1) returns null;
+// later ones succeed again.
+void failNthArrayAllocation(int n)
+{
+    allocationsUntilFailure = n;
+}
+
+// Disarms the injection when a test ends, also after a failed assertion.
+struct ArrayAllocationFailureGuard {
+    ~ArrayAllocationFailureGuard() { allocationsUntilFailure = 0; }
+};
+
+} // namespace
+
+void *operator new[](std::size_t size, const std::nothrow_t &) noexcept
+{
+    if (allocationsUntilFailure > 0 && --allocationsUntilFailure == 0)
+        return nullptr;
+    void *p = std::malloc(size ? size : 1);
+    if (p)
+        ++liveArrays;
+    return p;
+}
+
+void operator delete[](void *p) noexcept
+{
+    if (p)
+        --liveArrays;
+    std::free(p);
+}
+
+void operator delete[](void *p, std::size_t) noexcept
+{
+    operator delete[](p);
+}
+
+namespace {
+
+// Probes through the library, whose calls are the ones that matter (a tool
+// may redirect them while leaving the program's own calls alone).
+bool arrayAllocationFailureWorks()
+{
+    failNthArrayAllocation(1);
+    double *probe = NewStr1D(0);
+    failNthArrayAllocation(0);
+    if (!probe)
+        return true;
+    DelStr1D(&probe);
+    return false;
+}
+
+} // namespace
+
+#endif
