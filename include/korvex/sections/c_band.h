@@ -15,7 +15,9 @@
  * block. A and the right sides are overwritten by the elimination; on
  * failure they are left partly eliminated and X partly written.
  * Results: 1 solved, 0 a pivot below 1e-20 in magnitude or a singular end
- * block.
+ * block (also, without touching anything, when k is outside 1 ... 4 or
+ * n < k). With k = 1 only n = 1 can be solved: the band rows then keep no
+ * pivot after elimination.
  * ====================================================================== */
 
 /* Band system with homogeneous (4D) points as right sides.

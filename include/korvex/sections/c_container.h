@@ -161,7 +161,8 @@ KORVEX_API void mathSortDblArray(int n, double *a);
  * Returns the new count; 1 when n < 2 (also for n = 0). Dropped elements
  * are marked with 1e100 before the array is squeezed, so 1e100 is a
  * reserved value: every input element of 9.999999999e99 or more is removed
- * as well. The tail beyond the returned count is left as it was. */
+ * as well. Elements beyond the returned count are left over from the
+ * squeeze and may hold the marker. */
 KORVEX_API int mathFilterDblArray(int n, double *a, double tol);
 
 /* Largest element of a[0 ... n-1].

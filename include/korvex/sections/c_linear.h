@@ -150,15 +150,16 @@ KORVEX_API int mathSolHomoEqua22(double a, double b, double c, double d, double 
  *   tol  tolerance on the equation
  *   t    out double[2], first set to (0, pi/2)
  * Returns the number of roots written (0, 1 or 2) or 100 when every t
- * solves. A double root (tangency) gives 1 with both entries equal; a root
- * at 0 also yields 2 pi as t[1] with the result 1. */
+ * solves. A double root (tangency) gives 1 with both entries equal. A root
+ * at 0 is found at both ends of the period: the result is then 1 with
+ * t = (0, 2 pi). Roots lie in [0, 2 pi], unsorted. */
 KORVEX_API int mathSolExpoEqua(double a, double b, double c, double tol, double t[2]);
 
 /* Solves a cos^2 t + b cos t sin t + c sin^2 t = 0 for t in [0, pi].
  *   tol  tolerance on the equation
  *   t    out double[2]
  * Returns the number of roots (0, 1 or 2), or 100 when every t solves
- * (t then holds the unhalved values of the equation in 2t). */
+ * (t then holds (0, pi/2), not halved). */
 KORVEX_API int mathSolHomoEqua(double a, double b, double c, double tol, double t[2]);
 
 /* Decomposes v = c1 e1 + c2 e2 + c3 e3.
