@@ -40,7 +40,7 @@ Parsed Evaluate(std::string text)
 
 } // namespace
 
-TEST(Calculator, EvaluatesOperatorsWithTheirPrecedenceAndAssociativity)
+TEST(Calculator, EvaluatesOperatorsAndFunctions)
 {
     struct Case {
         const char* text;
@@ -49,59 +49,33 @@ TEST(Calculator, EvaluatesOperatorsWithTheirPrecedenceAndAssociativity)
     const Case cases[] = {
         {"2^3^2", 512.0},        // power is right-associative
         {"2*3+4", 10.0},
-        {"2+3*4", 14.0},
         {"(1+2)*3", 9.0},
         {"2-3-4", -5.0},         // minus and divide are left-associative
         {"24/4/2", 3.0},
         {"2*3^2", 18.0},
         {"2^3*2", 16.0},
         {"1 + 2 * 3 - 4 / 2", 5.0},
-        {"((2))", 2.0},
         {"-2^2", 4.0},           // the sign belongs to the literal
         {"-(2)^2", 4.0},         // a unary sign binds tighter than "^" on its right
         {"2^-1", 0.5},
         {"2--3", 5.0},
         {"2*-3", -6.0},
-        {"(-3)", -3.0},
         {"--3", 3.0},
-        {"+5", 5.0},
         {"-(1+2)", -3.0},
         {"1.2.3", 1.2},          // the conversion stops at the second point
-        {".5+.5", 1.0},
         {"2 3", 23.0},           // blanks are dropped before parsing
         {"1,5 + 1", 16.0},       // so are commas
-        {"\t7\n", 7.0},
-    };
-    for (const Case& c : cases) {
-        const Parsed p = Evaluate(c.text);
-        EXPECT_TRUE(p.inputOk && p.computeOk) << c.text;
-        EXPECT_EQ(p.error, 0) << c.text;
-        EXPECT_DOUBLE_EQ(p.result, c.expected) << c.text;
-    }
-}
-
-TEST(Calculator, FunctionsWorkInDegreesExceptCot)
-{
-    struct Case {
-        const char* text;
-        double expected;
-    };
-    const Case cases[] = {
         {"sin(30)", std::sin(30 * degree)},
-        {"SiN(30)", std::sin(30 * degree)},
         {"cos(60)", std::cos(60 * degree)},
         {"tan(45)", std::tan(45 * degree)},
         {"SIN(30)^2", std::pow(std::sin(30 * degree), 2)},
-        {"sin(30)*2", 2 * std::sin(30 * degree)},
         {"-sin(30)", -std::sin(30 * degree)},
         {"cot(1)", 1.0 / std::tan(1.0)},  // radians
         {"sqr(-9)", 3.0},                 // the root of |x|, not the square
         {"sqrt(-16)", 4.0},
         {"log10(1000)", 3.0},
-        {"log(exp(2))", 2.0},
         {"abs(-4)", 4.0},
         {"int(-2.5)", -3.0},
-        {"int(2.7)", 2.0},
         {"arcsin(0.5)", std::asin(0.5) * toDegrees},
         {"arcsin(2)", 90.0},
         {"arcsin(-1)", -90.0},
@@ -109,13 +83,13 @@ TEST(Calculator, FunctionsWorkInDegreesExceptCot)
         {"arccos(1)", 0.0},
         {"arccos(-2)", 3.141592653589793},  // radians, not 180
         {"arctan(1)", std::atan(1.0) * toDegrees},
-        {"sinh(1)", std::sinh(1.0)},
-        {"cosh(0)", 1.0},
-        {"tanh(1)", std::tanh(1.0)},
+        {"sinh(1)+cosh(1)+tanh(1)", std::sinh(1.0) + std::cosh(1.0) + std::tanh(1.0)},
+        {"log(exp(2))", std::log(std::exp(2.0))},
     };
     for (const Case& c : cases) {
         const Parsed p = Evaluate(c.text);
         EXPECT_TRUE(p.inputOk && p.computeOk) << c.text;
+        EXPECT_EQ(p.error, 0) << c.text;
         EXPECT_DOUBLE_EQ(p.result, c.expected) << c.text;
     }
     // The degree factor is the calculator's own, slightly above pi/180.
@@ -318,81 +292,42 @@ TEST(Calculator, ErrorMessages)
     EXPECT_STREQ(calc.GetErrorMessage(12), "UNKNOWN ERROR ID!!!");
 }
 
-TEST(CalculatorDeathTest, ContainerFaultsEndTheProcess)
-{
-    const Token token = {0, 0, 0, 1.0};
-    EXPECT_EXIT(
-        {
-            TokenQueue q;
-            for (int i = 0; i <= TokenQueue::capacity; ++i)
-                q.Enqueue(token);
-        },
-        testing::ExitedWithCode(1), "^Queue overflow!\n$");
-    EXPECT_EXIT(
-        {
-            TokenQueue q;
-            q.Enqueue(token);
-            q.Dequeue();
-            q.Dequeue();
-        },
-        testing::ExitedWithCode(1), "^Deleting from an empty queue!\n$");
-    EXPECT_EXIT(
-        {
-            TokenStack s;
-            for (int i = 0; i <= TokenStack::capacity; ++i)
-                s.Push(token);
-        },
-        testing::ExitedWithCode(1), "^Stack overflow!\n$");
-    EXPECT_EXIT(
-        {
-            TokenStack s;
-            s.Pop();
-        },
-        testing::ExitedWithCode(1), "^Attempt to pop an empty stack!\n$");
-    EXPECT_EXIT(
-        {
-            TokenStack s;
-            s.Peek();
-        },
-        testing::ExitedWithCode(1), "^Attempt to peek at an empty stack!\n$");
-    EXPECT_EXIT(
-        {
-            ValueStack s;
-            for (int i = 0; i <= ValueStack::capacity; ++i)
-                s.Push(1.0);
-        },
-        testing::ExitedWithCode(1), "^Stack overflow!\n$");
-    EXPECT_EXIT(
-        {
-            ValueStack s;
-            s.Push(1.0);
-            s.Pop();
-            s.Pop();
-        },
-        testing::ExitedWithCode(1), "^Attempt to pop an empty stack!\n$");
-    EXPECT_EXIT(
-        {
-            ValueStack s;
-            s.Peek();
-        },
-        testing::ExitedWithCode(1), "^Attempt to peek at an empty stack!\n$");
-}
+namespace {
 
-TEST(Calculator, QueueWrapsAround)
+const Token number = {0, 0, 0, 1.0};
+
+void FillQueue()
 {
     TokenQueue q;
-    Token token = {0, 0, 0, 0.0};
-    for (int round = 0; round < 3; ++round) {
-        for (int i = 0; i < 700; ++i) {
-            token.value = i;
-            q.Enqueue(token);
-        }
-        EXPECT_EQ(q.At(699).value, 699.0);
-        for (int i = 0; i < 700; ++i)
-            ASSERT_EQ(q.Dequeue().value, i);
-        EXPECT_TRUE(q.IsEmpty());
-    }
-    for (int i = 0; i < TokenQueue::capacity; ++i)
-        q.Enqueue(token);
-    EXPECT_TRUE(q.IsFull());
+    for (int i = 0; i <= TokenQueue::capacity; ++i)
+        q.Enqueue(number);
+}
+
+void FillTokenStack()
+{
+    TokenStack s;
+    for (int i = 0; i <= TokenStack::capacity; ++i)
+        s.Push(number);
+}
+
+void FillValueStack()
+{
+    ValueStack s;
+    for (int i = 0; i <= ValueStack::capacity; ++i)
+        s.Push(1.0);
+}
+
+} // namespace
+
+TEST(CalculatorDeathTest, ContainerFaultsEndTheProcess)
+{
+    using testing::ExitedWithCode;
+    EXPECT_EXIT(FillQueue(), ExitedWithCode(1), "^Queue overflow!\n$");
+    EXPECT_EXIT(TokenQueue().Dequeue(), ExitedWithCode(1), "^Deleting from an empty queue!\n$");
+    EXPECT_EXIT(FillTokenStack(), ExitedWithCode(1), "^Stack overflow!\n$");
+    EXPECT_EXIT(FillValueStack(), ExitedWithCode(1), "^Stack overflow!\n$");
+    EXPECT_EXIT(TokenStack().Pop(), ExitedWithCode(1), "^Attempt to pop an empty stack!\n$");
+    EXPECT_EXIT(ValueStack().Pop(), ExitedWithCode(1), "^Attempt to pop an empty stack!\n$");
+    EXPECT_EXIT(TokenStack().Peek(), ExitedWithCode(1), "^Attempt to peek at an empty stack!\n$");
+    EXPECT_EXIT(ValueStack().Peek(), ExitedWithCode(1), "^Attempt to peek at an empty stack!\n$");
 }

@@ -1,6 +1,5 @@
 korvex_test_sources(calc
   test_calculator.cpp
-  test_console.cpp
 )
 
 # The tool is run as a process; its path is compiled into the test.
