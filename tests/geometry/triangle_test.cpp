@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <initializer_list>
 
 namespace {
 
@@ -319,6 +320,44 @@ TEST(Contours, ZeroLineOverATriangle)
     EXPECT_EQ(mathEvalTriContLin(2, v1, v2, v3, 1.0, 2.0, 3.0, 1e-6, 0.0, va, vb), 0);
     EXPECT_EQ(mathEvalTriContLin(2, v1, v2, v3, -1.0, 1.0, 1.0, 1e-6, 1.5, va, vb), 0);
     EXPECT_EQ(mathEvalTriContLin(2, v1, v2, v3, -1.0, 1.0, 1.0, 1e-6, 1.4, va, vb), 1);
+}
+
+TEST(SegmentTriangle, CrossingCoplanarAndDegenerate)
+{
+    const double t0[3] = {0, 0, 0}, t1[3] = {4, 0, 0}, t2[3] = {0, 4, 0};
+    double p1[3], p2[3];
+    auto hit = [&](std::initializer_list<double> a, std::initializer_list<double> b) {
+        return mathIntSegmTri(a.begin(), b.begin(), t0, t1, t2, tol, p1, p2);
+    };
+
+    ASSERT_EQ(hit({1, 1, -1}, {1, 1, 3}), 1);
+    const double cross[3] = {1, 1, 0};
+    for (int i = 0; i < 3; ++i)
+        EXPECT_NEAR(p1[i], cross[i], 1e-15);
+    EXPECT_EQ(hit({3, 3, -1}, {3, 3, 1}), 0); // through the plane, beside the triangle
+    EXPECT_EQ(hit({1, 1, 1}, {1, 1, 2}), 0);  // short of the plane
+    ASSERT_EQ(hit({2, 1, 0}, {2, 1, 5}), 1);  // an end on the triangle
+    EXPECT_EQ(p1[2], 0.0);
+
+    // In the plane: the chord clipped to the segment, in segment order.
+    ASSERT_EQ(hit({5, 1, 0}, {-1, 1, 0}), 4);
+    EXPECT_NEAR(p1[0], 3.0, 1e-15);
+    EXPECT_NEAR(p2[0], 0.0, 1e-15);
+    EXPECT_NEAR(p2[1], 1.0, 1e-15);
+    ASSERT_EQ(hit({1, 1, 0}, {5, 1, 0}), 4);
+    EXPECT_NEAR(p1[0], 1.0, 1e-15);
+    EXPECT_NEAR(p2[0], 3.0, 1e-15);
+    // Touching a vertex, and passing beside the triangle.
+    ASSERT_EQ(hit({-1, 4, 0}, {1, 4, 0}), 1);
+    EXPECT_NEAR(p1[0], 0.0, 1e-15);
+    EXPECT_NEAR(p1[1], 4.0, 1e-15);
+    EXPECT_EQ(hit({5, 5, 0}, {6, 5, 0}), 0);
+    EXPECT_EQ(hit({3, 3, 0}, {5, 5, 0}), 0);
+
+    EXPECT_EQ(hit({1, 1, 0}, {1, 1, 1e-9}), 800);
+    const double flat[3] = {8, 0, 0};
+    const double a[3] = {1, 1, -1}, b[3] = {1, 1, 1};
+    EXPECT_EQ(mathIntSegmTri(a, b, t0, t1, flat, tol, p1, p2), 800);
 }
 
 } // namespace

@@ -183,3 +183,19 @@ KORVEX_API int mathEvalLinContPnt(int n, const double* v1, const double* v2, dou
  * is 0. */
 KORVEX_API int mathEvalTriContLin(int n, const double* v1, const double* v2, const double* v3, double f1,
                                   double f2, double f3, double tol, double minLen, double* va, double* vb);
+
+/* ---- Segment and triangle ------------------------------------------- */
+
+/* Intersection of the segment a -> b with the triangle t0 t1 t2 in space.
+ *   a, b        double[3] segment ends
+ *   t0, t1, t2  double[3] triangle vertices
+ *   tol         distance tolerance
+ *   p1, p2      out double[3]
+ * Returns 1 with the common point in p1 when the segment crosses the
+ * triangle (or touches it within tol); 4 with the common stretch p1 -> p2
+ * (in the direction of the segment) when the segment lies in the triangle's
+ * plane and overlaps the triangle by at least tol; 0 when they do not meet;
+ * 800 for a segment shorter than 1e-8 or a triangle whose vertices lie within
+ * tol of a line. Only the outputs named for the result are written. */
+KORVEX_API int mathIntSegmTri(const double a[3], const double b[3], const double t0[3], const double t1[3],
+                              const double t2[3], double tol, double p1[3], double p2[3]);
