@@ -13,6 +13,8 @@ double cycling(double x) { return x * x * x - 2.0 * x + 2.0; }
 double cyclingSlope(double x) { return 3.0 * x * x - 2.0; }
 double bowl(double x) { return (x - 0.3) * (x - 0.3) + 1.0; }
 double rising(double x) { return std::exp(x); }
+double identityMap(double x) { return x; }
+double wrongSlope(double) { return 2.0; } // each Newton step halves x
 
 } // namespace
 
@@ -158,6 +160,15 @@ TEST(PolyNewton, ConvergesStopsOnFlatSlopeAndGivesUp)
     EXPECT_EQ(mathSolUnivEqua(square, twice, 2.0, 0.0, 1e-12, &x), 800);
     // Newton cycles between 0 and 1 on x^3 - 2x + 2.
     EXPECT_EQ(mathSolUnivEqua(cycling, cyclingSlope, 0.0, 0.0, 1e-12, &x), 0);
+
+    // 32 steps at most, and the iterate after the last step is not tested:
+    // x reaches 2^-31 after 31 steps and 2^-32 after 32.
+    const double two31 = std::ldexp(1.0, -31);
+    const double two32 = std::ldexp(1.0, -32);
+    EXPECT_EQ(mathSolUnivEqua(identityMap, wrongSlope, 0.0, 1.0, 1.5 * two31, &x), 1);
+    EXPECT_EQ(x, two31);
+    EXPECT_EQ(mathSolUnivEqua(identityMap, wrongSlope, 0.0, 1.0, 1.5 * two32, &x), 0);
+    EXPECT_EQ(x, two32);
 }
 
 TEST(PolyAngle, CosSinEquation)

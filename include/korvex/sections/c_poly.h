@@ -55,7 +55,10 @@ KORVEX_API int mathSolTriaEqua(const double coef[4], double tol, double x[3]);
  * (a double root counts once), 100 when every x solves, or the result of
  * mathSolTriaEqua on coef + 1 when coef[0] is negligible. Returns 0 as well
  * when the factorisation degenerates (both factors with the same linear
- * coefficient). */
+ * coefficient, R < 1e-32). Caution: the biquadratics x^4 + C x^2 + E with
+ * E < 0 (x^4 - 1, for one) need exactly that split; rounding in the
+ * resolvent usually keeps R just above the limit, and the roots written are
+ * then spurious values near +-sqrt(-C/2) or 0, not the true ones. */
 KORVEX_API int mathSolQuarEqua(const double coef[5], double tol, double x[4]);
 
 /* Real roots in [lo, hi] of the polynomial of degree n (1 ... 4).
@@ -106,7 +109,9 @@ KORVEX_API int mathSolUnivEqua(double (*f)(double), double (*df)(double), double
  *   tol      tolerance of the underlying quartics in tan(t/2) (used doubled)
  *   t        out double[4]
  * Returns the number of angles written (0 ... 4; a fifth one is dropped), or
- * 100 when every angle solves (then t[0] = 0). */
+ * 100 when every angle solves (then t[0] = 0). For b = c = 0 (cos t = 0)
+ * both quartics are of the degenerate kind described at mathSolQuarEqua and
+ * the angles written are not the solutions pi/2, 3*pi/2. */
 KORVEX_API int mathSolAngleByCCSS(double a, double b, double c, double tol, double t[4]);
 
 /* All roots of a*x^3 + b*x^2 + c*x + d, complex ones included.
