@@ -120,13 +120,14 @@ KORVEX_API int mathSolAngleByCCSS(double a, double b, double c, double tol, doub
  *   n           out: 3, or the lower count when a is negligible
  *               ((abs(b) + abs(c) + abs(d)) * 1e-10 > abs(a)): then the
  *               quadratic b*x^2 + c*x + d gives 2 roots, or, when b is
- *               negligible too, one root wr[0] = d/c, the solution of
- *               c*x = d (sign not flipped; c is divided by even when zero)
- * Three real roots come in the order: the largest, then the other two. With
- * one real root it is wr[0], followed by the conjugate pair. When the cubic
- * is a shifted pure cube plus constant (its depressed form has no linear
- * term) the first root wr[0] lacks the shift -b/(3a): it is right only for
- * b = 0; the pair at positions 1, 2 is right. */
+ *               negligible too, 1 root wr[0] = d/c: the linear step keeps
+ *               the sign of d (it is not -d/c) and divides by c even when c
+ *               is zero
+ * Three real roots come largest, middle, smallest. With one real root it is
+ * wr[0], followed by the conjugate pair. When the depressed cubic has no
+ * linear term (a shifted pure cube plus a constant) the first root wr[0]
+ * lacks the shift -b/(3a): it is right only for b = 0; the pair at
+ * positions 1, 2 is right. */
 KORVEX_API void mathSlvequ3(double a, double b, double c, double d, double* wr, double* wi,
                             int* n);
 
