@@ -2,7 +2,7 @@
 # and runs a consumer project that finds it with find_package(korvex), and
 # compiles the same program with the flags pkg-config gives for korvex.pc.
 #
-# Inputs: KORVEX_BUILD_DIR, CONSUMER_SOURCE, WORK_DIR, GENERATOR.
+# Inputs: KORVEX_BUILD_DIR, CONSUMER_SOURCE, WORK_DIR, GENERATOR, LIBDIR.
 
 function(run_checked)
   execute_process(COMMAND ${ARGN} RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
@@ -30,13 +30,12 @@ endif()
 # pkg-config route
 find_program(PKG_CONFIG pkg-config REQUIRED)
 find_program(CXX_COMPILER NAMES c++ g++ REQUIRED)
-include(GNUInstallDirs)
-set(ENV{PKG_CONFIG_PATH} ${prefix}/${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+set(ENV{PKG_CONFIG_PATH} ${prefix}/${LIBDIR}/pkgconfig)
 run_checked(${PKG_CONFIG} --cflags --libs korvex)
 string(STRIP "${last_output}" pc_flags)
 separate_arguments(pc_flags UNIX_COMMAND "${pc_flags}")
 run_checked(${CXX_COMPILER} -std=c++17 ${CONSUMER_SOURCE}/main.cpp ${pc_flags}
-  -Wl,-rpath,${prefix}/${CMAKE_INSTALL_LIBDIR} -o ${WORK_DIR}/pc_consumer)
+  -Wl,-rpath,${prefix}/${LIBDIR} -o ${WORK_DIR}/pc_consumer)
 run_checked(${WORK_DIR}/pc_consumer)
 if(NOT last_output MATCHES "korvex consumer ok")
   message(FATAL_ERROR "pkg-config consumer printed: ${last_output}")
