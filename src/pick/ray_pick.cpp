@@ -15,15 +15,35 @@ struct ViewFrame {
     double y[3];
 };
 
+// X is dir with its smallest component dropped and the other two swapped
+// (one negated), the best-conditioned perpendicular; it is normalised
+// without a length check, so a very short dir still gives a proper frame
+// (and a zero dir a meaningless one). Y = dir x X.
 void BuildFrame(const double eye[3], const double dir[3], ViewFrame& frame)
 {
     for (int k = 0; k < 3; ++k) {
         frame.eye[k] = eye[k];
         frame.dir[k] = dir[k];
         frame.x[k] = 0.0;
-        frame.y[k] = 0.0;
     }
-    mathGetXYFromZ(frame.dir, frame.x, frame.y);
+    switch (mathGetVecMinComSub(3, dir)) {
+    case 0:
+        frame.x[1] = dir[2];
+        frame.x[2] = -dir[1];
+        break;
+    case 1:
+        frame.x[0] = -dir[2];
+        frame.x[2] = dir[0];
+        break;
+    default:
+        frame.x[0] = dir[1];
+        frame.x[1] = -dir[0];
+        break;
+    }
+    const double length = mathVecLen(frame.x);
+    for (int k = 0; k < 3; ++k)
+        frame.x[k] /= length;
+    mathVProduct(frame.dir, frame.x, frame.y);
 }
 
 // Local coordinates of a model point: (u, v) across the ray, w along it.
@@ -57,7 +77,8 @@ Local ToLocal(const ViewFrame& f, const Point& p)
 bool HitSegment(const Local& a, double la, const Local& b, double lb, double radius, double& t)
 {
     const double minLength2 = 1e-10; // shorter projected segments have no interior
-    const double slack = 1e-10;      // the foot may lie this far outside [0, 1]
+    const double lowerFoot = -1e-10;        // the foot may lie a hair outside [0, 1]
+    const double upperFoot = 1.0000000001;
     if (la < radius) {
         t = 0.0;
         return true;
@@ -76,7 +97,7 @@ bool HitSegment(const Local& a, double la, const Local& b, double lb, double rad
     if (!(lineDist < radius))
         return false;
     const double foot = -along / length2;
-    if (-slack < foot && foot < 1.0 + slack) {
+    if (lowerFoot < foot && foot < upperFoot) {
         t = foot;
         return true;
     }

@@ -60,6 +60,13 @@ TEST(RayPick, SinglePointHitsStrictlyInsideTheRadius)
     EXPECT_EQ(PntPickPt(point_2d(2.0f, 0.3f), side, alongX, 0.5, depth), 1);
     EXPECT_DOUBLE_EQ(depth, 12.0);
     EXPECT_EQ(PntPickPt(point_2d(2.0f, 0.6f), side, alongX, 0.5, depth), 0);
+
+    // A very short direction still spans a proper view plane: the distance
+    // from the ray is measured, and the depth shrinks with the direction.
+    const double tiny[3] = {0, 0, -5e-11};
+    EXPECT_EQ(PntPickPt(point_2d(0.0f, 0.6f), eye, tiny, 0.5, depth), 0);
+    EXPECT_EQ(PntPickPt(point_2d(0.0f, 0.3f), eye, tiny, 0.5, depth), 1);
+    EXPECT_DOUBLE_EQ(depth, 5e-10);
 }
 
 TEST(RayPick, PolylineFindsVerticesAndInteriors)

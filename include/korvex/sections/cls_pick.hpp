@@ -6,8 +6,11 @@
 // (model coordinates), and a pick radius measured perpendicular to it. dir
 // should be a unit vector: it is not normalised, and depths are measured in
 // units of its length; a zero dir gives a meaningless result. A view frame
-// (X, Y, dir) is built from dir as mathGetXYFromZ does; a model point q then
-// has the local coordinates u = (q - eye).X, v = (q - eye).Y and the depth
+// (X, Y, dir) is built from dir as mathGetXYFromZ does, except that X is
+// normalised without a length check (a dir shorter than 1e-10 still gets a
+// unit X): X is dir with its smallest component dropped and the other two
+// swapped, one negated, and Y = dir x X. A model point q then has the local
+// coordinates u = (q - eye).X, v = (q - eye).Y and the depth
 // w = (q - eye).dir, and lies sqrt(u*u + v*v) from the ray.
 //
 // Window picking. The cursor is a screen rectangle from wmin[2] (lower left)
