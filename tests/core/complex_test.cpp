@@ -7,7 +7,7 @@ TEST(Complex, ArithmeticAndGuardedDivision)
     double a[2] = {1.0, 2.0};
     const double b[2] = {3.0, -1.0};
     double out[2];
-    mathCompMult(a, b, a);
+    EXPECT_EQ(mathCompMult(a, b, a), 1);
     EXPECT_EQ(a[0], 5.0);
     EXPECT_EQ(a[1], 5.0);
 
@@ -48,6 +48,14 @@ TEST(Complex, LagrangeInterpolation)
     EXPECT_EQ(mathIntpComp(2, z, w, mid, out), 1);
     EXPECT_NEAR(out[0], 0.0, 1e-15);
     EXPECT_NEAR(out[1], 0.5, 1e-15);
+    // The result may overwrite the evaluation point or a value.
+    double xInOut[2] = {0.5, 0.0};
+    EXPECT_EQ(mathIntpComp(2, z, w, xInOut, xInOut), 1);
+    EXPECT_NEAR(xInOut[1], 0.5, 1e-15);
+    double wInOut[4] = {0.0, 0.0, 0.0, 1.0};
+    EXPECT_EQ(mathIntpComp(2, z, wInOut, mid, wInOut + 2), 1);
+    EXPECT_NEAR(wInOut[2], 0.0, 1e-15);
+    EXPECT_NEAR(wInOut[3], 0.5, 1e-15);
 
     // Three nodes through z^2 reproduce it anywhere in the plane.
     const double zq[6] = {0.0, 0.0, 1.0, 0.0, 0.0, 1.0};

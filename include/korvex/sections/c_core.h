@@ -551,14 +551,14 @@ KORVEX_API void mathScalePnt4H(const double c[3], const double f[3], const doubl
  * Complex numbers: double[2] (real, imaginary); a list of n is double[2n]
  * --------------------------------------------------------------------- */
 
-/* out = a + b (double[2] each). */
-KORVEX_API void mathCompPlus(const double a[2], const double b[2], double out[2]);
+/* out = a + b (double[2] each). Returns 1. */
+KORVEX_API int mathCompPlus(const double a[2], const double b[2], double out[2]);
 
-/* out = a - b (double[2] each). */
-KORVEX_API void mathCompMinus(const double a[2], const double b[2], double out[2]);
+/* out = a - b (double[2] each). Returns 1. */
+KORVEX_API int mathCompMinus(const double a[2], const double b[2], double out[2]);
 
-/* out = a * b (double[2] each); out may be a or b. */
-KORVEX_API void mathCompMult(const double a[2], const double b[2], double out[2]);
+/* out = a * b (double[2] each); out may be a or b. Returns 1. */
+KORVEX_API int mathCompMult(const double a[2], const double b[2], double out[2]);
 
 /* out = a / b (double[2] each).
  * Returns 1; or 0 when |b|^2 < 1e-20, with out untouched. */
@@ -566,10 +566,10 @@ KORVEX_API int mathCompDivi(const double a[2], const double b[2], double out[2])
 
 /* Value at x of the Lagrange polynomial through the n pairs (z[k], w[k]).
  *   n    number of nodes
- *   z    double[2n], nodes
- *   w    double[2n], values
+ *   z    double[2n], nodes (may be null when n < 1)
+ *   w    double[2n], values (may be null when n < 1)
  *   x    double[2], evaluation point
- *   out  out double[2]; must not overlap z, w or x
+ *   out  out double[2]; may be x or any node or value
  * Returns 1 (out = 0 for n < 1); or 0 when two nodes coincide
  * (|z[k] - z[j]|^2 < 1e-20), with out holding the partial sum of the
  * terms completed before the failure. */
