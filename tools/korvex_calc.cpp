@@ -205,7 +205,7 @@ int ReportCalcError(const Calculator& calc, const char* prefix)
     return exitExpression;
 }
 
-int FindVariable(const Calculator& calc, const std::string& name)
+int FindVariable(Calculator& calc, const std::string& name)
 {
     const std::string wanted = Upper(name);
     for (int i = 0; i < calc.GetNumberOfVariables(); ++i)

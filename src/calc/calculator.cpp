@@ -95,7 +95,7 @@ void Calculator::Assign(double* newValues)
         values[i] = newValues[i];
 }
 
-double Calculator::GetResult() const { return result; }
+double Calculator::GetResult() { return result; }
 
 int Calculator::GetErrorID() const { return errorId; }
 
@@ -108,9 +108,9 @@ const char* Calculator::GetErrorMessage(int id) const
     return errorMessages[id];
 }
 
-int Calculator::GetNumberOfVariables() const { return variableCount; }
+int Calculator::GetNumberOfVariables() { return variableCount; }
 
-const char* Calculator::GetVariableName(int i) const
+const char* Calculator::GetVariableName(int i)
 {
     if (i < 0 || i >= variableCount)
         return nullptr;

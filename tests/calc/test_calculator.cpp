@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace {
@@ -276,6 +277,13 @@ TEST(Calculator, StrayClosingParenthesisWithNothingOpenIsCarriedThrough)
     EXPECT_EQ(Evaluate("2)").result, 2.0);
     EXPECT_EQ(Evaluate("1*2)").site, 360);
 }
+
+// Hosts link against these exact member signatures: only the error
+// accessors are const.
+static_assert(std::is_same<decltype(&Calculator::GetResult), double (Calculator::*)()>::value, "");
+static_assert(std::is_same<decltype(&Calculator::GetNumberOfVariables), int (Calculator::*)()>::value, "");
+static_assert(std::is_same<decltype(&Calculator::GetVariableName), const char* (Calculator::*)(int)>::value, "");
+static_assert(std::is_same<decltype(&Calculator::GetErrorLineNo), int (Calculator::*)() const>::value, "");
 
 TEST(Calculator, ErrorMessages)
 {

@@ -173,16 +173,16 @@ public:
     // nothing.
     void Assign(double* values);
 
-    double GetResult() const;             // the result of the last Compute
+    double GetResult();                   // the result of the last Compute
     int GetErrorID() const;               // 0 when no error
     int GetErrorLineNo() const;           // site number of the error
     // The message for an error id; "UNKNOWN ERROR ID!!!" for ids outside
     // 0..11. The text is static: never freed, never changed.
     const char* GetErrorMessage(int id) const;
-    int GetNumberOfVariables() const;     // distinct variables found, 0..15
+    int GetNumberOfVariables();           // distinct variables found, 0..15
     // Upper-case name of variable i, 0 <= i < GetNumberOfVariables(), else
     // a null pointer. Valid until the next Input or Clear.
-    const char* GetVariableName(int i) const;
+    const char* GetVariableName(int i);
 
     // Console dialogue on the standard streams: prompts "Input a
     // expression: ", reads one line, asks for each variable ("No.1  A = ")
