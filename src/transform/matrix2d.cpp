@@ -76,16 +76,17 @@ int GetInverseMatrix2D(const float* in, float* out)
     const double det = a * e * i + b * f * g + c * d * h - c * e * g - b * d * i - a * f * h;
     if (std::fabs(det) < minDet)
         return 0;
-    // The adjugate (transposed cofactors) first, then each entry divided.
-    out[0] = static_cast<float>(e * i - f * h);
-    out[1] = static_cast<float>(c * h - b * i);
-    out[2] = static_cast<float>(b * f - c * e);
-    out[3] = static_cast<float>(f * g - d * i);
-    out[4] = static_cast<float>(a * i - c * g);
-    out[5] = static_cast<float>(c * d - a * f);
-    out[6] = static_cast<float>(d * h - e * g);
-    out[7] = static_cast<float>(b * g - a * h);
-    out[8] = static_cast<float>(a * e - b * d);
+    // The adjugate (transposed cofactors) in single precision; only the
+    // determinant and the division by it are carried in double.
+    out[0] = in[4] * in[8] - in[5] * in[7];
+    out[1] = in[2] * in[7] - in[1] * in[8];
+    out[2] = in[1] * in[5] - in[2] * in[4];
+    out[3] = in[5] * in[6] - in[3] * in[8];
+    out[4] = in[0] * in[8] - in[2] * in[6];
+    out[5] = in[2] * in[3] - in[0] * in[5];
+    out[6] = in[3] * in[7] - in[4] * in[6];
+    out[7] = in[1] * in[6] - in[0] * in[7];
+    out[8] = in[0] * in[4] - in[1] * in[3];
     for (int k = 0; k < 9; ++k)
         out[k] = static_cast<float>(static_cast<double>(out[k]) / det);
     return 1;

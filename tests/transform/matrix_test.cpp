@@ -81,6 +81,15 @@ TEST(MatrixArrays, Inverse2DRoundTripAndSingularGuard)
     for (int k = 0; k < 9; ++k)
         EXPECT_NEAR(prod[k], id[k], 1e-5f) << k;
 
+    // The cofactors are single precision: e*i and f*h below both round to
+    // 1 + 2^-11, so the first entry of the inverse is exactly 0 (in double
+    // it would be 2^-24 / det).
+    const float e = 1.0f + std::ldexp(1.0f, -12);
+    const float h = 1.0f + std::ldexp(1.0f, -11);
+    const float cancelling[9] = {1, 1, 0, 0, e, 1, 1, h, e};
+    ASSERT_EQ(GetInverseMatrix2D(cancelling, inv), 1);
+    EXPECT_EQ(inv[0], 0.0f);
+
     // Determinant 5e-7 is below the guard: the output stays as it was.
     const float nearlySingular[9] = {5e-7f, 0, 0, 0, 1, 0, 0, 0, 1};
     float out[9];

@@ -39,8 +39,9 @@ KORVEX_API void CopyMatrix2D(const float* in, float* out);
 // is written, so out may be the same array as a or b.
 KORVEX_API void MultiMatrix2D(const float* a, const float* b, float* out);
 // Inverts in[9] into out[9] by the adjugate, all nine entries taking part.
-// Returns 1 on success; returns 0 and leaves out untouched when the
-// determinant (computed in double) is below 1e-6 in absolute value.
+// The cofactors are formed in single precision, the determinant and the
+// division by it in double. Returns 1 on success; returns 0 and leaves out
+// untouched when the determinant is below 1e-6 in absolute value.
 // in and out must be different arrays.
 KORVEX_API int GetInverseMatrix2D(const float* in, float* out);
 // out[9] = move by (tx, ty).
