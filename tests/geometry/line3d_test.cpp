@@ -96,6 +96,16 @@ TEST(LineIntersect3D, CrossingSkewParallel)
     expectPoint(c2, 2.0, 0.0, 0.001);
     EXPECT_EQ(mathIntLin(l1, d1, l3, d1, 0.001, 1e-6, c1, c2), 2);
 
+    // With paraTol out of the way, the closest-point denominators (|d1 x d2|
+    // in size) are guarded at 1e-100: below it 800 with nothing written.
+    const double near1[3] = {1.0, 1e-99, 0.0};
+    const double near2[3] = {1.0, 1e-101, 0.0};
+    EXPECT_EQ(mathIntLin(l1, d1, l1, near1, 1e-6, 1e-300, c1, c2), 1);
+    c1[0] = c2[0] = 42.0;
+    EXPECT_EQ(mathIntLin(l1, d1, l1, near2, 1e-6, 1e-300, c1, c2), 800);
+    EXPECT_EQ(c1[0], 42.0);
+    EXPECT_EQ(c2[0], 42.0);
+
     // Two-point form: degenerate line, and outputs over the inputs.
     double a1[3] = {0.0, 0.0, 0.0};
     double b1[3] = {5.0, 0.0, 0.0};
@@ -158,6 +168,14 @@ TEST(LineIntersect3D, CommonPlane)
     EXPECT_EQ(mathIsLinCoplanar(l1, d1, l2, d2, 1e-6, 1e-6, p, n), 1);
     expectPoint(p, 3.0, 0.0, 2.0);
     expectPoint(n, 0.0, 0.0, 1.0);
+
+    // Crossing at an angle too small for a unit normal: still 1, the point
+    // is written and the normal is left as it was.
+    const double steep[3] = {1.0, 1e-11, 0.0};
+    p[0] = n[2] = 9.0;
+    EXPECT_EQ(mathIsLinCoplanar(l1, d1, l1, steep, 1e-6, 1e-12, p, n), 1);
+    EXPECT_EQ(p[0], 0.0);
+    EXPECT_EQ(n[2], 9.0);
 
     // Distinct parallel lines: the plane through l1 holding both.
     const double l3[3] = {5.0, 0.0, 5.0};

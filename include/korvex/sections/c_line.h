@@ -180,7 +180,9 @@ KORVEX_API double mathCalPntLinSegPara(const double p[3], const double a[3], con
  *   4    parallel and coincident within distTol; c1 and c2 are the feet of
  *        the midpoint of l1 and l2 on the two lines;
  *   2    parallel and apart; c1 and c2 as for 4;
- *   800  vanishing denominator (c1 may already be written, c2 untouched). */
+ *   800  the closest-point denominators vanish (below 1e-100: the
+ *        directions are parallel although paraTol did not say so); c1 and
+ *        c2 untouched, or c1 alone written if only the second one does. */
 KORVEX_API int mathIntLin(const double l1[3], const double d1[3], const double l2[3], const double d2[3],
                           double distTol, double paraTol, double c1[3], double c2[3]);
 
@@ -216,12 +218,16 @@ KORVEX_API int mathIntLine(const double a1[3], const double b1[3], const double 
  *   distTol, paraTol  as for mathIntLin
  *   p                 out double[3]: point of the plane
  *   n                 out double[3]: unit normal of the plane
- * Returns 1 if the lines are coplanar and the plane is determined (crossing
- * lines: p is the intersection on line 1; distinct parallel lines: p = l1);
- * 2 if they are coplanar but the plane is not determined (coincident lines),
- * p and n untouched, also for parallel lines whose plane cannot be formed
- * (their step or its cross product with d1 shorter than 1e-10); 0 if they
- * are skew or degenerate, p and n untouched. */
+ * Returns
+ *   1  the lines are coplanar and the plane is determined. Crossing lines:
+ *      p is the intersection point on line 1 and n = unit(d1 x d2); if
+ *      |d1 x d2| < 1e-10 (only when paraTol <= 1e-10) n is left untouched
+ *      and only p is written. Distinct parallel lines: p = l1 and
+ *      n = unit(d1 x unit(l2 - l1));
+ *   2  coplanar but the plane is not determined: coincident lines, or
+ *      parallel lines whose step l2 - l1 or its cross product with d1 is
+ *      shorter than 1e-10; p and n untouched;
+ *   0  skew lines or a degenerate configuration; p and n untouched. */
 KORVEX_API int mathIsLinCoplanar(const double l1[3], const double d1[3], const double l2[3], const double d2[3],
                                  double distTol, double paraTol, double p[3], double n[3]);
 
