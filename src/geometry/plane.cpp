@@ -52,8 +52,8 @@ void mathPrjVecPln(const double v[3], const double n[3], double w[3])
 
 int mathIsLinOnPln(const double l[3], const double d[3], const double p0[3], const double n[3], double tol)
 {
-    // The second test point sits at a fixed parameter rather than a fixed
-    // distance: hosts pass short directions and expect this reach.
+    // The second test point sits at parameter 100, not at a fixed distance:
+    // the reach of the test grows with the length of d, on purpose.
     const double farParam = 100.0;
     if (!(tol > mathDistPntPln(l, p0, n)))
         return 0;
