@@ -239,11 +239,12 @@ void Calculator::ToPostfix(TokenQueue& infix)
             stack.Push(token);
         }
     }
+    // Everything left goes to the postfix form; an unclosed "(" is reported
+    // but carried along like the rest (evaluation skips it), so every
+    // operator still follows its operands.
     while (!stack.IsEmpty()) {
-        if (stack.Peek().code == calc::codeLeftParen) {
+        if (stack.Peek().code == calc::codeLeftParen)
             SetError(errorMissingRight, 380);
-            return;
-        }
         postfix.Enqueue(stack.Pop());
     }
 }

@@ -255,15 +255,16 @@ TEST(Calculator, EvaluationErrors)
     EXPECT_FALSE(empty.Compute());
     EXPECT_EQ(empty.GetErrorLineNo(), 537);
 
-    // An unclosed parenthesis stops the conversion at it, so the operators
-    // below it are missing and two values remain.
+    // An unclosed parenthesis is reported but does not cut the postfix form
+    // short: the operators below it are still emitted, and Compute keeps the
+    // parse error.
     Calculator partial;
     char open[] = "1+(2+3";
     EXPECT_FALSE(partial.Input(open));
-    EXPECT_FALSE(partial.Compute());
-    EXPECT_EQ(partial.GetErrorID(), 3);
-    EXPECT_EQ(partial.GetErrorLineNo(), 532);
-    EXPECT_EQ(partial.GetResult(), 5.0);
+    EXPECT_TRUE(partial.Compute());
+    EXPECT_EQ(partial.GetResult(), 6.0);
+    EXPECT_EQ(partial.GetErrorID(), 5);
+    EXPECT_EQ(partial.GetErrorLineNo(), 380);
 }
 
 TEST(Calculator, StrayClosingParenthesisWithNothingOpenIsCarriedThrough)
