@@ -26,7 +26,7 @@ struct AxisParts {
 int axisParts(const point_3d* p, AxisParts& parts)
 {
     // Shorter axes give no usable direction.
-    const float minLength = 0.001f;
+    const double minLength = 0.001;
     const point_3d d = p[1] - p[0];
     const float length = d.Length();
     if (length < minLength)
@@ -39,27 +39,30 @@ int axisParts(const point_3d* p, AxisParts& parts)
 }
 
 // Below this the direction runs along X and needs no turn about X.
-const float alongXLimit = 0.001f;
+const double alongXLimit = 0.001;
 
 } // namespace
 
 void MakeRotate3D_V(const point_3d* p, float a, float* out)
 {
-    // Shorter axes give no usable direction.
-    const float minLength = 0.01f;
+    // Shorter axes give no usable direction. The float length is compared
+    // with the double bound, so a length of exactly 0.01f is still too short.
+    const double minLength = 0.01;
     const point_3d d = p[1] - p[0];
     const float length = d.Length();
     if (length < minLength) {
         InitMatrix3D(out);
         return;
     }
-    // Rotation by the unit quaternion (sin(a/2) * axis, cos(a/2)).
+    // Rotation by the unit quaternion (sin(a/2) * axis, cos(a/2)); the
+    // vector part is scaled by the sine before the division by the length,
+    // all in double.
     const double half = static_cast<double>(a) / 2.0;
     const double c = std::cos(half);
     const double s = std::sin(half);
-    const double qx = s * static_cast<double>(d.x / length);
-    const double qy = s * static_cast<double>(d.y / length);
-    const double qz = s * static_cast<double>(d.z / length);
+    const double qx = s * d.x / length;
+    const double qy = s * d.y / length;
+    const double qz = s * d.z / length;
     const double w = c;
     float rot[16];
     ClearMatrix3D(rot, 0.0f);

@@ -83,7 +83,7 @@ void MakeShearMatY(float cx, float cy, float a, float* out)
 void MakeShearMatrix(const point_2d& p0, const point_2d& p1, float a, float* out)
 {
     // Below this length p0 and p1 give no direction.
-    const float minLength = 1e-5f;
+    const double minLength = 1e-5;
     point_2d u = p1 - p0;
     const float length = u.Unit();
     if (length < minLength) {

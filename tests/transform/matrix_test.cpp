@@ -165,10 +165,11 @@ TEST(MatrixArrays, ShearAngleGuard)
 TEST(MatrixArrays, ShearAlongALine)
 {
     float m[9], ref[9];
-    // Coincident points fall back to a shear along the world X axis.
-    const point_2d p(1.0f, 2.0f);
-    MakeShearMatrix(p, point_2d(1.0f, 2.000001f), 0.3f, m);
-    MakeShearMatX(1.0f, 2.0f, 0.3f, ref);
+    // Coincident points fall back to a shear along the world X axis; the
+    // bound is the double 1e-5, so points 1e-5f apart still count as one.
+    const point_2d p(0.0f, 0.0f);
+    MakeShearMatrix(p, point_2d(1e-5f, 0.0f), 0.3f, m);
+    MakeShearMatX(0.0f, 0.0f, 0.3f, ref);
     for (int k = 0; k < 9; ++k)
         EXPECT_EQ(m[k], ref[k]);
 
@@ -189,8 +190,15 @@ TEST(MatrixArrays, RotationsAboutLines)
     expectPoint(apply3D(m, 2, 0, 0), 1, 1, 0);
     expectPoint(apply3D(m, 1, 0, 7), 1, 0, 7);
 
-    // A 0.005 long axis gives the identity.
-    point_3d shortAxis[2] = {point_3d(1, 1, 1), point_3d(1.005f, 1, 1)};
+    // The quaternion is formed in double: sin(a/2) times the float
+    // direction, divided by the float length.
+    point_3d tilted[2] = {point_3d(0, 0, 0), point_3d(1, 2, 2)};
+    MakeRotate3D_V(tilted, 2.0f, m);
+    const double qy = std::sin(1.0) * 2.0f / 3.0f;
+    EXPECT_EQ(m[0], static_cast<float>(1.0 - 2.0 * qy * qy - 2.0 * qy * qy));
+
+    // An axis of exactly 0.01f is below the double bound 0.01: identity.
+    point_3d shortAxis[2] = {point_3d(0, 0, 0), point_3d(0.01f, 0, 0)};
     MakeRotate3D_V(shortAxis, 1.0f, m);
     float id[16];
     InitMatrix3D(id);
