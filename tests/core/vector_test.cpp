@@ -114,7 +114,10 @@ TEST(DirectionTests, RawProductsAndOppositeFlag)
     EXPECT_EQ(mathIsParallel(p, q, 1.5), 1);
     const double r[3] = {0.0, 1.0, 0.0};
     EXPECT_EQ(mathIsPerpendicular(p, r, 1e-9), 1);
-    EXPECT_EQ(mathIsPerpendicular(p, q, 1e-9), 0);
+    // A product or distance equal to the tolerance does not pass.
+    const double h[3] = {0.5, 1.0, 0.0};
+    EXPECT_EQ(mathIsPerpendicular(a, h, 0.5), 0);
+    EXPECT_EQ(mathChkAng(a, h, std::sqrt(0.5 * 0.5 + 1.0), 0), 0);
 
     const double ties[3] = {2.0, -1.0, 1.0};
     EXPECT_EQ(mathGetVecMinComSub(3, ties), 1);
@@ -155,7 +158,8 @@ TEST(Angles, UnsignedAnglesAndFailureValue)
 
     const double x[3] = {3.0, 0.0, 0.0};
     const double y[3] = {0.0, 0.0, 0.5};
-    EXPECT_DOUBLE_EQ(mathGetAngle(x, y, 1e-10), kHalfPi);
+    // |y| = 0.5: a tolerance equal to a length still measures.
+    EXPECT_DOUBLE_EQ(mathGetAngle(x, y, 0.5), kHalfPi);
     EXPECT_EQ(mathGetAngle(x, y, 0.6), -1.0);
 
     const double p0[3] = {1.0, 1.0, 1.0};
