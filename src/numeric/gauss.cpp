@@ -1,6 +1,7 @@
 // Gaussian elimination: the Gauss-Jordan inverse, the complete-pivoting
 // solver and the general solver with its minimum-norm fall-back.
 #include "korvex/capi.h"
+#include "numeric/linear_internal.h"
 
 #include <cmath>
 #include <new>
@@ -70,7 +71,7 @@ int mathGaussEliminate(double *A, double *b, int n)
 {
     if (n < 1)
         return 1; // an empty system has its empty solution
-    int *perm = new (std::nothrow) int[n + 1];
+    int *perm = new (std::nothrow) int[static_cast<std::size_t>(n) + 1];
     if (!perm)
         return 0;
 
@@ -142,7 +143,7 @@ int mathGaussEliminate(double *A, double *b, int n)
 
 int mathSolLineEqua(int n, const double *A, const double *b, double *x)
 {
-    double *work = new (std::nothrow) double[n * n + 1];
+    double *work = new (std::nothrow) double[matrixCells(n, n) + 1];
     if (!work)
         return -1;
     mathMatxCopy(A, work, n, n);

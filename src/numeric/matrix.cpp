@@ -4,6 +4,17 @@
 
 #include <cmath>
 
+namespace {
+
+// Elements of an n x m matrix; an empty dimension makes the matrix empty
+// (two negative dimensions must not multiply to a positive count).
+int elementCount(int n, int m)
+{
+    return (n < 1 || m < 1) ? 0 : n * m;
+}
+
+} // namespace
+
 double mathCalDeterm22(double a11, double a12, double a21, double a22)
 {
     return a11 * a22 - a12 * a21;
@@ -52,28 +63,28 @@ void mathUnitMatx(int n, double *I)
 
 void mathMatxScalar(int n, int m, const double *A, double s, double *B)
 {
-    const int count = n * m;
+    const int count = elementCount(n, m);
     for (int i = 0; i < count; ++i)
         B[i] = s * A[i];
 }
 
 void mathMatxPlus(int n, int m, const double *A, const double *B, double *C)
 {
-    const int count = n * m;
+    const int count = elementCount(n, m);
     for (int i = 0; i < count; ++i)
         C[i] = A[i] + B[i];
 }
 
 void mathMatxMinus(int n, int m, const double *A, const double *B, double *C)
 {
-    const int count = n * m;
+    const int count = elementCount(n, m);
     for (int i = 0; i < count; ++i)
         C[i] = A[i] - B[i];
 }
 
 void mathMatxCopy(const double *src, double *dst, int n, int m)
 {
-    const int count = n * m;
+    const int count = elementCount(n, m);
     for (int i = 0; i < count; ++i)
         dst[i] = src[i];
 }

@@ -29,19 +29,17 @@ void scaleRow(int n, double *row, double divisor)
 
 int mathMatxInvs(int rows, int cols, const double *A, double *X)
 {
+    // An empty matrix has an empty pseudo-inverse.
+    if (rows < 1 || cols < 1)
+        return 1;
     // At holds the columns of A as rows; d is Greville's projection vector.
-    double *At = new (std::nothrow) double[cols * rows + 1];
+    double *At = new (std::nothrow) double[matrixCells(cols, rows) + 1];
     if (!At)
         return 0;
-    double *d = new (std::nothrow) double[cols + 1];
+    double *d = new (std::nothrow) double[static_cast<std::size_t>(cols) + 1];
     if (!d) {
         delete[] At;
         return 0;
-    }
-    if (cols < 1) {
-        delete[] d;
-        delete[] At;
-        return 1;
     }
     mathMatxTrans(rows, cols, A, At);
 
@@ -86,7 +84,7 @@ int mathMatxInvs(int rows, int cols, const double *A, double *X)
 
 int mathSolMatxEqua(int rows, int cols, const double *A, const double *b, double *x)
 {
-    double *pinv = new (std::nothrow) double[cols * rows + 1]();
+    double *pinv = new (std::nothrow) double[matrixCells(cols, rows) + 1]();
     if (!pinv)
         return -1;
     if (mathMatxInvs(rows, cols, A, pinv) != 1) {

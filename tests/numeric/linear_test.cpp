@@ -50,11 +50,17 @@ TEST(MatrixKernel, ProductTransposeAndCopy)
     mathMatxTrans(2, 3, A.data(), At.data());
     expectNear(At, {1, 4, 2, 5, 3, 6}, 0.0);
 
-    // Empty dimensions write nothing.
+    // Empty dimensions write nothing, also when both are negative.
     Matrix untouched(4, 7.0);
     mathMatxMult(A.data(), B.data(), untouched.data(), 0, 3, 2);
     mathMatxTrans(0, 3, A.data(), untouched.data());
     mathUnitMatx(0, untouched.data());
+    mathMatxCopy(A.data(), untouched.data(), -2, -2);
+    mathMatxScalar(-2, -2, A.data(), 2.0, untouched.data());
+    mathMatxPlus(-1, -3, A.data(), A.data(), untouched.data());
+    EXPECT_EQ(mathMatxInvs(-1, 2, A.data(), untouched.data()), 1);
+    EXPECT_EQ(mathMatxInvs(2, -1, A.data(), untouched.data()), 1);
+    EXPECT_EQ(mathSolLineEqua(-2, A.data(), B.data(), untouched.data()), 1);
     expectNear(untouched, Matrix(4, 7.0), 0.0);
 
     // The copy takes the source first.

@@ -75,8 +75,8 @@ KORVEX_API void mathElemnTrans_6(int n, int i, int j, double *M);
  *   A           rows x cols, unchanged
  *   X           out cols x rows, the pseudo-inverse (must not overlap A)
  * Returns 1, or 0 only when scratch memory cannot be allocated (X is then
- * untouched). Rank deficiency is not an error: a zero matrix gives a zero
- * X. Columns whose squared norm is 1e-20 or less count as zero, and a
+ * untouched); with rows or cols below 1 it returns 1 at once and writes
+ * nothing. Rank deficiency is not an error: a zero matrix gives a zero X. Columns whose squared norm is 1e-20 or less count as zero, and a
  * column whose residual against the earlier ones has a squared norm below
  * 1e-20 counts as dependent. */
 KORVEX_API int mathMatxInvs(int rows, int cols, const double *A, double *X);
@@ -96,11 +96,12 @@ KORVEX_API int mathMatxInvsByET(int n, double *A, double *Ainv);
  *   b  length n: in the right side, out the solution (on failure partly
  *      transformed)
  *   n  order
- * Returns 1, or 0 when the matrix is singular or its work array cannot be
- * allocated. The singularity test is absolute: a pivot p counts as zero
- * when 1.0 + p == 1.0 in double arithmetic, whatever the scale of the
- * matrix, so a regular matrix whose elements are all below about 1e-16
- * is reported singular. Scale such systems first. */
+ * Returns 1 (also for n < 1, with nothing done), or 0 when the matrix is
+ * singular or its work array cannot be allocated. The singularity test
+ * is absolute: a pivot p counts as zero when 1.0 + p == 1.0 in double
+ * arithmetic, whatever the scale of the matrix, so a regular matrix whose
+ * elements are all below about 1e-16 is reported singular. Scale such
+ * systems first. */
 KORVEX_API int mathGaussEliminate(double *A, double *b, int n);
 
 /* Solves A x = b.
@@ -111,10 +112,12 @@ KORVEX_API int mathGaussEliminate(double *A, double *b, int n);
  * Uses mathGaussEliminate on a copy; when that reports the matrix singular,
  * x becomes pinv(A) b, the least-squares solution of minimum norm, and the
  * result is still 1. Both tests are absolute: a regular matrix with all
- * elements below about 1e-16 fails the pivot test, and if its columns are
- * also shorter than 1e-10 the pseudo-inverse counts them as zero and x = 0. Returns 1, 0 when the pseudo-inverse cannot be
- * computed (out of memory; x then holds the partial elimination), -1 when
- * the copy cannot be allocated (nothing is written). */
+ * elements below about 1e-16 fails the pivot test, and as its columns are
+ * then also shorter than 1e-10 the pseudo-inverse counts them as zero and
+ * x = 0. Returns 1 (also for n < 1, with nothing written), 0 when the
+ * pseudo-inverse cannot be computed (out of memory; x then holds the
+ * partial elimination), -1 when the copy cannot be allocated (nothing is
+ * written). */
 KORVEX_API int mathSolLineEqua(int n, const double *A, const double *b, double *x);
 
 /* ---- Small systems -------------------------------------------------- */
