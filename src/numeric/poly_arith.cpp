@@ -31,8 +31,8 @@ double mathEvalRPoly(int n, const double* num, const double* den, double x)
 
 void mathPolyMult(int np, int nq, const double* p, const double* q, double* r)
 {
-    if (np < 0)
-        return;
+    // The product is cleared first; with a negative degree the sums below
+    // add nothing (and with np + nq + 1 <= 0 nothing is cleared either).
     for (int i = 0; i <= np + nq; ++i)
         r[i] = 0.0;
     for (int i = 0; i <= np; ++i)

@@ -208,9 +208,10 @@ TEST(PolyArithmetic, EvaluationProductsDerivativesIntegrals)
     const double b[2] = {4, 5};
     mathPolyMult(2, 1, a, b, r);
     expectValues(r, {4, 13, 22, 15}, 0.0);
-    r[0] = 99.0;
-    mathPolyMult(-1, 1, a, b, r);
-    EXPECT_EQ(r[0], 99.0);
+    // A negative degree still clears np + nq + 1 entries and adds nothing.
+    r[0] = r[1] = r[2] = 99.0;
+    mathPolyMult(-1, 2, a, a, r);
+    expectValues(r, {0, 0, 99}, 0.0);
 
     // Constant first: 1 + x + x^2 + x^3. Separate output: first derivative
     // whatever k; in place: the true k-th derivative.

@@ -192,9 +192,11 @@ KORVEX_API double mathEvalPoly(int n, const double* coef, double x);
 KORVEX_API double mathEvalRPoly(int n, const double* num, const double* den, double x);
 
 /* Product of two polynomials given in the same coefficient order.
- *   np, nq  degrees of p and q; nothing is written when np < 0
+ *   np, nq  degrees of p and q
  *   p, q    double[np + 1], double[nq + 1]
- *   r       out double[np + nq + 1]; must not overlap p or q */
+ *   r       out double[np + nq + 1]; must not overlap p or q. It is cleared
+ *           over np + nq + 1 entries first, so with a negative degree it
+ *           holds zeros there (nothing is written when np + nq + 1 <= 0) */
 KORVEX_API void mathPolyMult(int np, int nq, const double* p, const double* q, double* r);
 
 /* Derivative of the polynomial coef[0] + coef[1]*x + ... + coef[n]*x^n.
