@@ -529,20 +529,23 @@ KORVEX_API void mathScalePnt(const double c[3], const double f[3], const double 
 KORVEX_API void mathMovePnt4H(const double v[3], const double p[4], double out[4]);
 
 /* Rotation by angle about the line (q, d), as mathRotPnt.
- *   d, q   double[3]
+ *   d      double[3], axis direction, unit (not normalised here)
+ *   q      double[3], axis point
  *   angle  radians
  *   p      double[4]
  *   out    out double[4] */
 KORVEX_API void mathRotPnt4H(const double d[3], const double q[3], double angle, const double p[4], double out[4]);
 
 /* Mirror in the plane (q, n), as mathMirPnt.
- *   q, n  double[3]
+ *   q     double[3], plane point
+ *   n     double[3], plane normal, unit (not checked)
  *   p     double[4]
  *   out   out double[4] */
 KORVEX_API void mathMirPnt4H(const double q[3], const double n[3], const double p[4], double out[4]);
 
-/* Scaling about c by the factors f, as mathScalePnt.
- *   c, f  double[3]
+/* Scaling about c by the per-axis factors f, as mathScalePnt.
+ *   c     double[3], centre
+ *   f     double[3], factors along x, y, z
  *   p     double[4]
  *   out   out double[4] */
 KORVEX_API void mathScalePnt4H(const double c[3], const double f[3], const double p[4], double out[4]);
