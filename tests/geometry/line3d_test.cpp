@@ -57,6 +57,10 @@ TEST(Line3D, ParameterAxisChoice)
     const double d[3] = {0.48, 0.6, 0.64};
     const double p[3] = {1.0 + 2.0 * 0.48, 1.0 + 2.0 * 0.6, 1.0 + 2.0 * 0.64};
     EXPECT_NEAR(mathCalPntLinPara(p, l, d), 2.0, 1e-12);
+    // A component of exactly 0.5 does not qualify: z is used, not x.
+    const double halfX[3] = {0.5, 0.5, std::sqrt(0.5)};
+    const double offX[3] = {8.0, 2.0, 1.0 + 2.0 * std::sqrt(0.5)};
+    EXPECT_NEAR(mathCalPntLinPara(offX, l, halfX), 2.0, 1e-12);
     const double shortD[3] = {0.1, 0.1, 0.1};
     EXPECT_EQ(mathCalPntLinPara(p, l, shortD), 0.0);
 

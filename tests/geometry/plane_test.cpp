@@ -98,11 +98,13 @@ TEST(Plane, TwoPlanes)
     expectPoint(d, 0.0, 1.0, 0.0);
     expectPoint(x, 3.0, 0.0, 2.0);
 
-    // A direction crossing x = 0 steeply puts the point there.
-    const double n3[3] = {0.0, 0.6, 0.8};
-    EXPECT_EQ(mathIntPln(p1, kUp, kOrigin, n3, 1e-6, 1e-6, x, d), 1);
-    expectPoint(d, -1.0, 0.0, 0.0);
-    expectPoint(x, 0.0, -8.0 / 3.0, 2.0);
+    // D = (0.6, 0.8, 0): x is the first axis above half the length, so the
+    // point goes on x = 0 although y is the larger component.
+    const double n3[3] = {0.8, -0.6, 0.0};
+    const double p3[3] = {3.0, 0.0, 0.0};
+    EXPECT_EQ(mathIntPln(p1, kUp, p3, n3, 1e-6, 1e-6, x, d), 1);
+    expectPoint(d, 0.6, 0.8, 0.0);
+    expectPoint(x, 0.0, -4.0, 2.0);
 
     // Parallel planes: x untouched, d the short raw cross product.
     const double tilt[3] = {0.0, 1e-9, 1.0};
