@@ -194,10 +194,11 @@ void TRANSF_3D::DefRotate(point_3d p, point_3d u, point_3d v)
             Init(); // u and v point the same way
             return;
         }
-        // Opposite directions: any axis perpendicular to u serves.
+        // Opposite directions: any axis perpendicular to u serves. It is
+        // used at its own length; Define normalises the line direction.
         n = u.Xproduct(frameSeed(u));
-        if (n.Unit() < tol)
-            return;
+        if (n.Length() < tol)
+            return; // u gives no direction: the object stays as it was
     }
     const point_3d q = p + n * 10.0f;
     DefRotateLine(p, q, -ang);

@@ -183,7 +183,11 @@ TEST(Transf3D, RotationTakingOneDirectionToAnother)
     t.DefRotate(point_3d(0, 0, 0), point_3d(1, 2, 3), point_3d(-1, -2, -3));
     expectPoint(point_3d(1, 2, 3) * t, -1, -2, -3, 1e-4f);
 
+    // A zero u gives no axis at all: the object is left as it was.
     t.DefMove(point_3d(5, 5, 5));
+    const TRANSF_3D moved = t;
+    t.DefRotate(point_3d(0, 0, 0), point_3d(0, 0, 0), point_3d(1, 0, 0));
+    expectSame(t, moved);
     t.DefRotate(point_3d(0, 0, 0), point_3d(1, 0, 0), point_3d(3, 0, 0));
     expectSame(t, TRANSF_3D());
 

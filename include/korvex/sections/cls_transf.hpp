@@ -223,7 +223,8 @@ public:
     // Rotation by the angle from u to v about an axis along u x v placed
     // through 2*p (see DefRotateLine). The identity when u and v have the
     // same direction; for opposite directions the axis is taken
-    // perpendicular to u.
+    // perpendicular to u (a half turn). A zero u leaves the object
+    // unchanged.
     void DefRotate(point_3d p, point_3d u, point_3d v);
     // Reflection in the plane through p with the normal n.
     void DefMirrorPlane(const point_3d& p, const point_3d& n);
