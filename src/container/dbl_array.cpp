@@ -72,6 +72,8 @@ int mathGetDblArrayMinVal(int n, const double *a, double *min)
 
 int mathGetDblArrayMinMax(int n, const double *a, double *min, double *max)
 {
+    if (n < 1)
+        return 1; // an empty array has no extremes to report
     if (min)
         mathGetDblArrayMinVal(n, a, min);
     if (max)

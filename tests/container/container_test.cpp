@@ -202,6 +202,8 @@ TEST(DoubleArrays, SortFilterExtremesAndReverse)
     mx = 0;
     EXPECT_EQ(mathGetDblArrayMinMax(5, v, nullptr, &mx), 1);
     EXPECT_EQ(mx, 7.0);
+    EXPECT_EQ(mathGetDblArrayMinMax(0, nullptr, &mn, &mx), 1); // a not read
+    EXPECT_EQ(mx, 7.0);
 
     double r[] = {1, 2, 3, 4, 5};
     mathRevDblArray(5, r);

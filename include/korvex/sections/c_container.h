@@ -176,7 +176,7 @@ KORVEX_API int mathGetDblArrayMinVal(int n, const double *a, double *min);
 
 /* Smallest and largest elements of a[0 ... n-1].
  *   min, max  out, each may be null when not wanted
- * a must hold at least one element. Returns 1. */
+ * Returns 1. With n < 1 a is not read and min and max are left untouched. */
 KORVEX_API int mathGetDblArrayMinMax(int n, const double *a, double *min, double *max);
 
 /* Reverses a[0 ... n-1] in place. */
