@@ -5,23 +5,27 @@
 
 namespace {
 
-// Whether the point x of the triangle's plane lies in the triangle (boundary
-// within tol included), judged in a frame of that plane.
-bool inTriangle(const double x[3], const double t0[3], const double t1[3], const double t2[3],
-                const double n[3], double tol)
+// Position of the point x of the triangle's plane against the triangle,
+// judged in a frame of that plane: 1 inside or on the boundary (within tol),
+// 0 outside, 800 when an edge is too short to give the plane a direction.
+int inTriangle(const double x[3], const double t0[3], const double t1[3], const double t2[3],
+               const double n[3], double tol)
 {
+    const int degenerate = 800;
     double edge[3];
     mathGetVec(t0, t1, edge);
     MathRFrame f;
     if (!mathDerivFrame(t0, n, edge, &f))
-        return false;
+        return degenerate;
     double p[2], a[2], b[2], c[2];
     mathTransWorldPnt3DTo2D(&f, x, p);
     mathTransWorldPnt3DTo2D(&f, t0, a);
     mathTransWorldPnt3DTo2D(&f, t1, b);
     mathTransWorldPnt3DTo2D(&f, t2, c);
     const int r = mathChkPntTri2D(p, a, b, c, tol);
-    return r == 1 || r == 2;
+    if (r == degenerate)
+        return degenerate;
+    return r == 1 || r == 2 ? 1 : 0;
 }
 
 // Segment a -> b lying in the triangle's plane: the chord that the segment's
@@ -90,11 +94,13 @@ int mathIntSegmTri(const double a[3], const double b[3], const double t0[3], con
     double x1[3], x2[3];
     double s1 = 0.0, s2 = 0.0;
     switch (mathIntSegmPln(a, b, t0, n, tol, x1, x2, &s1, &s2)) {
-    case 1: // the segment meets the plane in one point
-        if (!inTriangle(x1, t0, t1, t2, n, tol))
-            return 0;
+    case 1: { // the segment meets the plane in one point
+        const int in = inTriangle(x1, t0, t1, t2, n, tol);
+        if (in != 1)
+            return in;
         mathCpyPnt(x1, p1);
         return 1;
+    }
     case 4: // the segment lies in the plane
         return coplanarOverlap(a, b, t0, t1, t2, n, tol, p1, p2);
     default:

@@ -358,6 +358,9 @@ TEST(SegmentTriangle, CrossingCoplanarAndDegenerate)
     const double flat[3] = {8, 0, 0};
     const double a[3] = {1, 1, -1}, b[3] = {1, 1, 1};
     EXPECT_EQ(mathIntSegmTri(a, b, t0, t1, flat, tol, p1, p2), 800);
+    // With tol 0 only the edge guard sees a vanishing edge.
+    const double close[3] = {1e-11, 0, 0};
+    EXPECT_EQ(mathIntSegmTri(a, b, t0, close, t2, 0.0, p1, p2), 800);
 }
 
 } // namespace
