@@ -19,14 +19,17 @@
  *   a, b, c  double[2]
  *   tol      distance tolerance
  * Returns 1 inside, 0 outside, 800 when all three vertices lie on the x axis
- * (|y| < tol). A triangle that touches the x axis only at a vertex through
- * the origin while its other vertices lie on one side counts as outside. */
+ * (|y| < tol). The box test comes first: 0 when all x > tol, all x < -tol,
+ * all y > tol or all y < -tol, even for three vertices on the axis. A
+ * triangle that touches the x axis only at a vertex through the origin while
+ * its other vertices lie on one side counts as outside. */
 KORVEX_API int mathChkOriInTri2D(const double a[2], const double b[2], const double c[2], double tol);
 
 /* The same test for the quadrilateral ABCD (edges AB, BC, CD, DA).
  *   a, b, c, d  double[2]
  *   tol         distance tolerance
- * Returns 1 inside, 0 outside, 800 when all four vertices lie on the x axis. */
+ * Returns 1 inside, 0 outside, 800 when all four vertices lie on the x axis
+ * (after the same box test, which gives 0 first). */
 KORVEX_API int mathChkOriInQuad2D(const double a[2], const double b[2], const double c[2], const double d[2],
                                   double tol);
 
@@ -60,8 +63,9 @@ KORVEX_API int mathCalTri2DGCO(const double a[2], const double b[2], const doubl
  * directed edges (mathChkPntLin2D).
  *   p, a, b, c  double[2]
  *   tol         distance tolerance
- * Returns 1 inside, 2 on the boundary, 0 outside, 800 when an edge is
- * shorter than 1e-10. The boundary is not treated alike on every edge: a
+ * Returns 1 inside, 2 on the boundary, 0 outside, 800 when an edge met by
+ * the test is shorter than 1e-10 (a point outside the triangle's box, grown
+ * by tol, gives 0 before any edge is looked at). The boundary is not treated alike on every edge: a
  * point within tol of the line of CA, or of both AB and BC, gives 2, while a
  * point on AB or BC alone (and inside the other two edges) gives 1. */
 KORVEX_API int mathChkPntTri2D(const double p[2], const double a[2], const double b[2], const double c[2],
@@ -163,7 +167,7 @@ KORVEX_API double mathDistTriPln(const double a[3], const double b[3], const dou
  *   tol     value tolerance
  *   v       out double[n]; may be v1 or v2
  * Returns 1 with v = the interpolated zero when the values have opposite
- * signs; otherwise 1 with v = v1 (or v2) when |f1| (or |f2|) < tol, else 0
+ * signs (f1 f2 < -1e-50); otherwise 1 with v = v1 (or v2) when |f1| (or |f2|) < tol, else 0
  * with v untouched. */
 KORVEX_API int mathEvalLinContPnt(int n, const double* v1, const double* v2, double f1, double f2, double tol,
                                   double* v);
@@ -195,7 +199,8 @@ KORVEX_API int mathEvalTriContLin(int n, const double* v1, const double* v2, con
  * triangle (or touches it within tol); 4 with the common stretch p1 -> p2
  * (in the direction of the segment) when the segment lies in the triangle's
  * plane and overlaps the triangle by at least tol; 0 when they do not meet;
- * 800 for a segment shorter than 1e-8 or a triangle whose vertices lie within
- * tol of a line. Only the outputs named for the result are written. */
+ * 800 for a segment shorter than 1e-8, a triangle whose vertices lie within
+ * tol of a line, or a crossing point tested against a triangle with an edge
+ * shorter than 1e-10. Only the outputs named for the result are written. */
 KORVEX_API int mathIntSegmTri(const double a[3], const double b[3], const double t0[3], const double t1[3],
                               const double t2[3], double tol, double p1[3], double p2[3]);
