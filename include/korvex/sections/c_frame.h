@@ -107,13 +107,15 @@ KORVEX_API void mathMultRFrame(const MathRFrame* a, const MathRFrame* b, MathRFr
  * to f's local coordinates. Its axes are the columns of f's axis block, its
  * origin (-origin . xAxis, -origin . yAxis, -origin . zAxis), its scale 1.
  *   f    frame (orthonormal axes assumed)
- *   inv  out frame; may be f */
+ *   inv  out frame; may be f
+ * Neither pointer is checked. */
 KORVEX_API void mathInvsRFrame(const MathRFrame* f, MathRFrame* inv);
 
 /* Frame b expressed in the coordinates of frame a: the product of the
  * inverse of a with b (mathEvalRFrame(f, f) is the identity).
  *   a, b  frames (a orthonormal)
- *   out   out frame; may be a or b */
+ *   out   out frame; may be a or b
+ * a must not be null; out is left untouched when b or out is null. */
 KORVEX_API void mathEvalRFrame(const MathRFrame* a, const MathRFrame* b, MathRFrame* out);
 
 /* Builds a frame from an origin, a Z direction and a reference direction:
@@ -144,8 +146,8 @@ KORVEX_API int mathIsRFrameUnit(const MathRFrame* f);
 /* Allocates an array of n pointers, each to a new frame whose scale is 1
  * (the other fields are not initialised).
  *   n  number of frames (at least 1)
- * Returns the array, or null when n < 1 or an allocation fails (nothing
- * stays allocated then). Release it with mathFreRFrameStr(n, array). */
+ * Returns the array, or null when n < 1 or an allocation fails (the frames
+ * already allocated are freed again). Release it with mathFreRFrameStr(n, array). */
 KORVEX_API MathRFrame** mathNewRFrameStr(int n);
 
 /* Frees an array made by mathNewRFrameStr: its n frames and the array.
@@ -306,7 +308,7 @@ KORVEX_API void mathMatxWorldToRFrame(const MathRFrame* f, double m[16]);
 
 /* Row-form matrix of mathEvalRFrame(a, b): takes b's local coordinates to
  * a's local coordinates.
- *   a, b  frames (a orthonormal);  m  out double[16]
+ *   a, b  frames (a orthonormal), neither null;  m  out double[16]
  * Returns 0 always. */
 KORVEX_API int mathMatxRFrameToRFrame(const MathRFrame* a, const MathRFrame* b, double m[16]);
 
