@@ -44,6 +44,11 @@ TEST(Plane, LineIntersection)
     expectPoint(x, 7.0, 8.0, 0.0005);
     EXPECT_EQ(mathIntLinPln(l, flat, kOrigin, kUp, 0.001, 1e-6, x), 2);
     expectPoint(x, 1.0, 1.0, 4.0);
+    // Both tests are strict: |d . n| = 0.8 is not parallel for paraTol 0.8,
+    // a height of 0.25 is not in the plane for distTol 0.25.
+    EXPECT_EQ(mathIntLinPln(l, d, kOrigin, kUp, 1e-6, 0.8, x), 1);
+    const double atTol[3] = {7.0, 8.0, 0.25};
+    EXPECT_EQ(mathIntLinPln(atTol, flat, kOrigin, kUp, 0.25, 1e-6, x), 2);
 }
 
 TEST(Plane, SegmentIntersectionCodes)
