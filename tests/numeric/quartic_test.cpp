@@ -88,6 +88,19 @@ TEST(PolyQuartic, FactorPairsAndDegenerateForms)
     const double flatSplit[5] = {1, 0, 5, 0, 4};
     EXPECT_EQ(mathSolQuarEqua(flatSplit, 1e-9, x), 0);
 
+    // A triple root makes the resolvent a pure cube with not-a-number roots:
+    // no usable split, nothing found.
+    EXPECT_EQ(mathSolQuarEqua(fromRoots({1, 1, 1, -3}).data(), 1e-9, x), 0);
+    EXPECT_EQ(mathSolQuarEqua(fromRoots({2, 2, 2, 2}).data(), 1e-9, x), 0);
+
+    // x^4 - x^2 - 2 = (x^2 - 2)(x^2 + 1) needs the R = 0 split, but rounding
+    // in the resolvent leaves R near 5e-8: four spurious roots near
+    // +-sqrt(1/2) instead of +-sqrt(2).
+    const double nearSplit[5] = {1, 0, -1, 0, -2};
+    ASSERT_EQ(mathSolQuarEqua(nearSplit, 1e-9, x), 4);
+    for (int i = 0; i < 4; ++i)
+        EXPECT_NEAR(std::fabs(x[i]), 0.7071067811865476, 1e-7);
+
     const double cubic[5] = {0, 1, -6, 11, -6};
     EXPECT_EQ(mathSolQuarEqua(cubic, 1e-9, x), 3);
     const double zero[5] = {0, 0, 0, 0, 0};

@@ -40,25 +40,34 @@ KORVEX_API int mathSolQuadEqua(double a, double b, double c, double tol, double 
  *   coef  double[4], highest degree first
  *   tol   passed to mathSolQuadEqua when the cubic degenerates
  *   x     out double[3]
- * Returns 3 (three real roots: x[0] the largest, x[1] the smallest, x[2] the
- * middle one; a double root appears twice), 1 (one real root in x[0]), or the
- * result of mathSolQuadEqua on coef + 1 when coef[0] is negligible (including
- * 100 for an all-zero equation). A pure cube (x - r)^3 yields not-a-number
- * roots with the result 3. */
+ * Returns 3 (three distinct real roots: x[0] the largest, x[1] the smallest,
+ * x[2] the middle one; or a simple root in x[0] and a double root in x[1]
+ * and x[2]), 1 (one real root in x[0]), or the result of mathSolQuadEqua on
+ * coef + 1 when (abs(coef[1]) + abs(coef[2]) + abs(coef[3])) * 1e-20 >
+ * abs(coef[0]) (including 100 for an all-zero equation). Cube roots use the
+ * exponent 0.33333333333333, so x^3 = 8 gives slightly less than 2. A pure
+ * cube (x - r)^3 yields not-a-number roots with the result 3. */
 KORVEX_API int mathSolTriaEqua(const double coef[4], double tol, double x[3]);
 
 /* Real roots of the quartic coef[0]*x^4 + ... + coef[4].
  *   coef  double[5], highest degree first
  *   tol   value tolerance of the quadratic factors (divided by abs(coef[0]))
- *   x     out double[4]; x[0] is set to 0 first
+ *   x     out double[4]; x[0] is set to 0 once the quartic is found
+ *         non-degenerate
  * Returns 0 ... 4 roots, each quadratic factor contributing its roots in turn
- * (a double root counts once), 100 when every x solves, or the result of
- * mathSolTriaEqua on coef + 1 when coef[0] is negligible. Returns 0 as well
- * when the factorisation degenerates (both factors with the same linear
- * coefficient, R < 1e-32). Caution: the biquadratics x^4 + C x^2 + E with
- * E < 0 (x^4 - 1, for one) need exactly that split; rounding in the
- * resolvent usually keeps R just above the limit, and the roots written are
- * then spurious values near +-sqrt(-C/2) or 0, not the true ones. */
+ * as mathSolQuadEqua orders them (a double root counts once), 100 when every
+ * x solves, or the result of mathSolTriaEqua on coef + 1 when
+ * (abs(coef[1]) + ... + abs(coef[4])) * 1e-20 > abs(coef[0]).
+ * Returns 0 as well when the factorisation degenerates:
+ *  - a triple or quadruple root makes the resolvent cubic a pure cube whose
+ *    roots are not-a-number, so no usable resolvent root is found;
+ *  - both factors would get the same linear coefficient (R < 1e-32).
+ * Caution: the biquadratics x^4 + C x^2 + E with E < 0 (x^4 - 1, for one)
+ * need exactly that second split; rounding in the resolvent (cube roots with
+ * the exponent 0.33333333333333) keeps R near 1e-7, above the limit, and
+ * the roots written are then spurious values near +-sqrt(-C/2) or 0, not the
+ * true ones: x^4 - x^2 - 2 gives four roots near +-0.7071 instead of
+ * +-1.4142, x^4 - 1 two roots near 0 instead of +-1. */
 KORVEX_API int mathSolQuarEqua(const double coef[5], double tol, double x[4]);
 
 /* Real roots in [lo, hi] of the polynomial of degree n (1 ... 4).
@@ -83,9 +92,13 @@ KORVEX_API int mathSolUniNEqua(int n, const double* coef, double lo, double hi, 
  *   lo, hi  the interval
  *   tol     value tolerance
  *   roots   out, room for 3*n doubles (the count normally stays at or below n)
- * Returns the number of roots written, sorted ascending, with roots that
- * enclose no sign change of N/D merged into one; 100 when N is identically
- * zero (roots untouched).
+ * The candidates are the roots of N (found with tolerance 1e-10), the minima
+ * of abs(N/D) below tol between the roots of N - tol*D and of N + tol*D
+ * (mathOptMonoMoun), and lo and hi. Returns the number of roots written,
+ * sorted ascending, neighbours closer than 1e-10 merged, and any two
+ * neighbours with abs(N/D) < tol at their midpoint merged into one (the left
+ * one, or the right one when it lies on hi); 100 when the coefficients of N
+ * are all negligible (roots untouched).
  * Not re-entrant: the function keeps the degree and the two coefficient
  * pointers in module-level variables while it runs, so two threads must not
  * call it at the same time. */
@@ -124,7 +137,8 @@ KORVEX_API int mathSolAngleByCCSS(double a, double b, double c, double tol, doub
  *               the sign of d (it is not -d/c) and divides by c even when c
  *               is zero
  * Three real roots come largest, middle, smallest. With one real root it is
- * wr[0], followed by the conjugate pair. When the depressed cubic has no
+ * wr[0], followed by the conjugate pair. An all-zero equation gives
+ * not-a-number roots. When the depressed cubic has no
  * linear term (a shifted pure cube plus a constant) the first root wr[0]
  * lacks the shift -b/(3a): it is right only for b = 0; the pair at
  * positions 1, 2 is right. */
@@ -136,7 +150,9 @@ KORVEX_API void mathSlvequ3(double a, double b, double c, double d, double* wr, 
  *   wr, wi   out double[4]: real and imaginary parts
  *   n        out: 4, or the lower degree's count of mathSlvequ3 when a is
  *            negligible ((abs(b) + ... + abs(e)) * 1e-10 > abs(a))
- * Roots 0, 1 come from one quadratic factor and roots 2, 3 from the other. */
+ * Roots 0, 1 come from one monic quadratic factor and roots 2, 3 from the
+ * other; within a factor the smaller real root comes first, or the complex
+ * pair with its positive imaginary part first. */
 KORVEX_API void mathSlvequ4(double a, double b, double c, double d, double e, double* wr,
                             double* wi, int* n);
 
@@ -178,7 +194,10 @@ KORVEX_API int mathSlvequN(const double* coef, int n, double* wr, double* wi, in
  *           abs(H[l][l-1]) <= eps * (abs(H[l-1][l-1]) + abs(H[l][l]))
  *   maxit   iteration limit per eigenvalue (or pair)
  * Returns 1 on convergence, 0 when an eigenvalue took more than maxit sweeps
- * (the ones found so far, from the bottom up, are written). */
+ * (the ones found so far, from the bottom up, are written). The 11th and
+ * 21st sweep on one block use an exceptional shift, which breaks the cycle
+ * the standard shifts fall into on cyclic matrices (the companion matrix of
+ * x^n - c). */
 KORVEX_API int mathHQR(double* H, int n, double* wr, double* wi, double eps, int maxit);
 
 /* Value of the polynomial coef[0]*x^n + ... + coef[n] (highest first).
