@@ -172,6 +172,8 @@ TEST(Box, OverlapTests)
     EXPECT_EQ(a.CanIntersect(gap), 0);
     EXPECT_EQ(a.CanIntersect(gap, 0.1f), 1);
     EXPECT_EQ(a.CanIntersect(gap, 0.01f), 0);
+    // A gap of exactly tol still counts.
+    EXPECT_EQ(a.CanIntersect(Box2D(1.5f, 0, 2, 1), 0.5f), 1);
     EXPECT_EQ(a.IsIntersect(Box2D(0.5f, 0.5f, 2, 2)), 1);
 
     // Against a Box3D only x and y count.

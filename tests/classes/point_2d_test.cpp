@@ -141,6 +141,19 @@ TEST(Point2D, AxisAnglesSnapWithParallelismTolerance)
     const double a = point_2d(1.0f, -1e-5f).AngleToXAxis();
     EXPECT_LT(a, kTwoPiF);
     EXPECT_NEAR(a, kTwoPiF - 1e-5, 1e-7);
+
+    // Both snaps include their bound: a tolerance equal to the distance from
+    // 0 (or from 2*pi) still snaps, one a hair smaller does not.
+    const double above = static_cast<double>(std::atan2(1e-5f, 1.0f));
+    gmSetParaTol(above);
+    EXPECT_EQ(point_2d(1.0f, 1e-5f).AngleToXAxis(), 0.0);
+    gmSetParaTol(std::nextafter(above, 0.0));
+    EXPECT_EQ(point_2d(1.0f, 1e-5f).AngleToXAxis(), above);
+    const double below = static_cast<double>(std::atan2(-1e-5f, 1.0f)) + kTwoPiF;
+    gmSetParaTol(std::fabs(below - kTwoPiF));
+    EXPECT_EQ(point_2d(1.0f, -1e-5f).AngleToXAxis(), kTwoPiF);
+    gmSetParaTol(std::nextafter(std::fabs(below - kTwoPiF), 0.0));
+    EXPECT_EQ(point_2d(1.0f, -1e-5f).AngleToXAxis(), below);
 }
 
 TEST(Point2D, SegmentAndLineDistances)
@@ -184,6 +197,30 @@ TEST(Point2D, SegmentAndLineDistances)
                                                       point_3d(1.0f, 0.0f, 0.0f), lt);
     EXPECT_FLOAT_EQ(lt, 2.0f);
     EXPECT_FLOAT_EQ(d3, std::sqrt(10.0f));
+}
+
+TEST(Point2D, SegmentParameterWindowAndTies)
+{
+    const point_2d a(0.0f, 0.0f), b(1.0f, 0.0f);
+    float t = 9.0f, dist = 9.0f;
+    point_2d foot;
+    ToleranceGuard guard;
+
+    // Widened window (-0.5, 1.5]: open at a's end, closed at b's end.
+    gmSetParaTol(0.5);
+    point_2d(-0.5f, 1.0f).GetDistLineSeg(a, b, t, foot, dist);
+    EXPECT_EQ(t, 0.0f);
+    EXPECT_EQ(foot.x, 0.0f);
+    point_2d(1.5f, 1.0f).GetDistLineSeg(a, b, t, foot, dist);
+    EXPECT_EQ(t, 1.5f);
+    EXPECT_EQ(foot.x, 1.5f);
+    EXPECT_EQ(dist, 1.0f);
+
+    // An empty window sends every point to an end; equal distances go to b.
+    gmSetParaTol(-1.0);
+    point_2d(0.5f, 1.0f).GetDistLineSeg(a, b, t, foot, dist);
+    EXPECT_EQ(t, 1.0f);
+    EXPECT_EQ(foot.x, 1.0f);
 }
 
 TEST(Point2D, OnLineAndCollinearity)

@@ -29,6 +29,9 @@ TEST(Point3D, AccessTagAndMatrix)
     EXPECT_EQ(n.tag, 3);
     nd_point_3d copy(n);
     EXPECT_EQ(copy.tag, 3);
+    nd_point_3d assigned;
+    assigned = n;
+    EXPECT_EQ(assigned.tag, 3);
 
     // Shift by (1, 2, 3); the fourth column must be ignored.
     float m[16] = {1, 0, 0, 7, 0, 1, 0, 7, 0, 0, 1, 7, 1, 2, 3, 7};
@@ -131,6 +134,27 @@ TEST(Point3D, LineDistancesAndSegmentTest)
     EXPECT_EQ(point_3d(0.5f, 0.5f, 0.51f).IsOnSeg(a, b), 0);
     // A flat axis (y = z = 0 on both ends) still admits points on it.
     EXPECT_EQ(point_3d(0.5f, 0, 0).IsOnSeg(a, point_3d(1, 0, 0)), 1);
+
+    // The widened box is open: at exactly the tolerance off the axis the
+    // point is rejected although its detour (about 0.414) would pass.
+    ToleranceGuard guard;
+    gmSetAbsDistTol(0.5);
+    EXPECT_EQ(point_3d(0.5f, 0.5f, 0).IsOnSeg(a, point_3d(1, 0, 0)), 0);
+    EXPECT_EQ(point_3d(0.5f, 0.49f, 0).IsOnSeg(a, point_3d(1, 0, 0)), 1);
+}
+
+TEST(Point3D, DivisionGuards)
+{
+    // point_3d follows the absolute zero; point_4d keeps its fixed 1e-7.
+    ToleranceGuard guard;
+    gmSetAbsZero(0.5);
+    point_3d p(1, 2, 3);
+    EXPECT_EQ((p / 0.5f).x, 1.0f);
+    p /= -0.5f;
+    EXPECT_EQ(p.z, 3.0f);
+    EXPECT_EQ((p / 0.6f).x, 1.0f / 0.6f);
+    point_4d h(1, 2, 3, 4);
+    EXPECT_EQ((h / 0.5f).w, 8.0f);
 }
 
 TEST(Point4D, HomogeneousFields)
