@@ -28,7 +28,7 @@ void expectIdentity(const TRANSF_2D& t, float tol = 0.0f)
 TEST(Transf2D, StorageOrderAndArrayExchange)
 {
     const float m[9] = {1, 2, 3, 4, 5, 6, 7, 8, 9};
-    TRANSF_2D t(m);
+    TRANSF_2D t = m; // a plain converting constructor
     // The projective column sits apart from the rows it belongs to.
     expectPoint(t.xAxis, 1, 2, 0);
     expectPoint(t.yAxis, 4, 5, 0);

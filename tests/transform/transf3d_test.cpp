@@ -32,7 +32,7 @@ TEST(Transf3D, StorageOrderAndArrayExchange)
     float m[16];
     for (int k = 0; k < 16; ++k)
         m[k] = static_cast<float>(k + 1);
-    const TRANSF_3D t(m);
+    const TRANSF_3D t = m; // a plain converting constructor
     expectPoint(t.xAxis, 1, 2, 3, 0);
     expectPoint(t.yAxis, 5, 6, 7, 0);
     expectPoint(t.zAxis, 9, 10, 11, 0);

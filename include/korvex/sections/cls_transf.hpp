@@ -35,7 +35,7 @@ public:
     // The identity.
     TRANSF_2D();
     // Loaded from the row-major 3x3 array m9[9], as Set9.
-    explicit TRANSF_2D(const float* m9);
+    TRANSF_2D(const float* m9);
     TRANSF_2D(const TRANSF_2D& t);
     TRANSF_2D& operator=(const TRANSF_2D& t);
 
@@ -148,7 +148,7 @@ public:
     // The identity.
     TRANSF_3D();
     // Loaded from the row-major 4x4 array m16[16], as Set16.
-    explicit TRANSF_3D(const float* m16);
+    TRANSF_3D(const float* m16);
     TRANSF_3D(const TRANSF_3D& t);
     TRANSF_3D& operator=(const TRANSF_3D& t);
     // The plane transformation with z flattened: like Set2D, but with
