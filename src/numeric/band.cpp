@@ -85,9 +85,10 @@ int solveBand(int n, int k, double *A, const RightSides &B, const RightSides &X)
         // Back substitution through the band.
         for (int i = first - 1; i >= 0; --i) {
             const double *row = A + i * kBandWidth;
-            double s = B.row(i)[c];
+            double known = 0.0; // the unknowns after the pivot, already solved
             for (int j = 1; j <= k - 1; ++j)
-                s -= row[j] * X.row(i + j)[c];
+                known += row[j] * X.row(i + j)[c];
+            const double s = B.row(i)[c] - known;
             if (std::fabs(row[0]) < kPivotGuard)
                 return 0;
             X.row(i)[c] = s / row[0];

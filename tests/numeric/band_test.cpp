@@ -133,7 +133,21 @@ TEST(BandSolver, SingularSystemsReturnZero)
     std::vector<double> B4(6 * 4, 1.0), X4(6 * 4);
     EXPECT_EQ(mathSolCurvBandMatx4D(6, 4, t.band.data(), B4.data(), X4.data()), 0);
 
-    // An end block larger than the fixed storage is refused.
-    std::vector<double> A5(5 * 4, 1.0), B5(5 * 4, 1.0), X5(5 * 4);
+    // An end block larger than the fixed storage is refused, and so is a
+    // system smaller than its end block; neither touches the arrays.
+    std::vector<double> A5(5 * 4, 1.0), B5(5 * 4, 1.0), X5(5 * 4, 2.0);
     EXPECT_EQ(mathSolCurvBandMatx4D(5, 5, A5.data(), B5.data(), X5.data()), 0);
+    EXPECT_EQ(mathSolCurvBandMatx4D(3, 4, A5.data(), B5.data(), X5.data()), 0);
+    EXPECT_EQ(A5, std::vector<double>(5 * 4, 1.0));
+    EXPECT_EQ(X5, std::vector<double>(5 * 4, 2.0));
+
+    // With an end block of order 1 the shift keeps no coefficient of a band
+    // row, so even the identity fails beyond a single equation.
+    for (int n : {2, 3}) {
+        std::vector<double> A1(n * 4, 0.0), B1(n * 3, 1.0), X1(n * 3);
+        A1[0] = 1.0;
+        for (int i = 1; i < n; ++i)
+            A1[i * 4 + 1] = 1.0;
+        EXPECT_EQ(mathSolCurvBandMatx(n, 1, A1.data(), B1.data(), X1.data()), 0) << "n = " << n;
+    }
 }
