@@ -164,19 +164,32 @@ bool Calculator::Compute()
     // The stored postfix form is read in place rather than consumed, so it
     // can be evaluated again with other values.
     ValueStack stack;
+    int held = 0; // values on the stack
     const int count = postfix.Count();
     for (int k = 0; k < count; ++k) {
         const Token& token = postfix.At(k);
         const int code = token.code;
+        const bool binary = code > calc::codeLeftParen && code <= calc::codeLastBinary;
+        const bool prefix = code > calc::codeRightParen;
+        // A sign or function closed off before its operand, as in "(-)1",
+        // leaves an operator with nothing to act on: there is no value to
+        // report rather than an empty stack to pop.
+        if ((binary && held < 2) || (prefix && held < 1)) {
+            SetError(errorUnknown, 537);
+            return false;
+        }
         if (code == calc::codeNumber) {
             stack.Push(token.value);
+            ++held;
         } else if (code >= calc::codeFirstVariable && code <= maxVariables) {
             stack.Push(values[code - calc::codeFirstVariable]);
-        } else if (code > calc::codeLeftParen && code <= calc::codeLastBinary) {
+            ++held;
+        } else if (binary) {
             const double right = stack.Pop();
             const double left = stack.Pop();
             stack.Push(ApplyBinary(code, left, right));
-        } else if (code > calc::codeRightParen) {
+            --held;
+        } else if (prefix) {
             const double x = stack.Pop();
             stack.Push(ApplyUnary(code, x));
         }

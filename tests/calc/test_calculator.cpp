@@ -255,6 +255,19 @@ TEST(Calculator, EvaluationErrors)
     EXPECT_FALSE(empty.Compute());
     EXPECT_EQ(empty.GetErrorLineNo(), 537);
 
+    // An operator left without an operand has nothing to evaluate; the
+    // process goes on.
+    for (const char* text : {"(-)1", "(sin)2"}) {
+        p = Evaluate(text);
+        EXPECT_FALSE(p.computeOk) << text;
+        EXPECT_EQ(p.error, 9) << text;
+        EXPECT_EQ(p.site, 537) << text;
+    }
+    char cut[] = "1+)2";  // the conversion stops at the ")", after the "+"
+    EXPECT_FALSE(empty.Input(cut));
+    EXPECT_FALSE(empty.Compute());
+    EXPECT_EQ(empty.GetErrorLineNo(), 537);
+
     // An unclosed parenthesis is reported but does not cut the postfix form
     // short: the operators below it are still emitted, and Compute keeps the
     // parse error.

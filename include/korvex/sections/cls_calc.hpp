@@ -163,7 +163,10 @@ public:
 
     // Evaluates the stored postfix form with the current values and stores
     // the result. Returns false when the form does not reduce to a single
-    // value (errors 3 and 9); an error met on the way (division by zero,
+    // value (errors 3 and 9; error 9 also when a sign or function is closed
+    // off before its operand, as in "(-)1", which parses without error, or
+    // when the form left by a failed Input lacks an operand); an error met
+    // on the way (division by zero,
     // id 6) leaves the result computed with 0 in its place and is reported
     // only through GetErrorID. Repeatable; the stored form is kept.
     bool Compute();
