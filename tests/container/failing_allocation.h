@@ -1,8 +1,9 @@
 // Failure injection and accounting for the library's non-throwing array
 // allocations. Include in exactly one source file of a test program: it
-// replaces the program's global nothrow operator new[] and operator
-// delete[] (the library's calls bind to them too). Unarmed, they forward to
-// the ordinary allocator and only count the live arrays.
+// replaces the program's global array operators new[] (both forms) and
+// delete[] (the library's calls bind to them too), so that every array is
+// made and released by the same malloc / free pair. Only the nothrow form
+// can be made to fail; unarmed, the operators just count the live arrays.
 //
 // Tools that replace the allocator themselves (valgrind) take these
 // replacements over; arrayAllocationFailureWorks() then reports false and
@@ -42,6 +43,15 @@ void *operator new[](std::size_t size, const std::nothrow_t &) noexcept
     void *p = std::malloc(size ? size : 1);
     if (p)
         ++liveArrays;
+    return p;
+}
+
+void *operator new[](std::size_t size)
+{
+    void *p = std::malloc(size ? size : 1);
+    if (!p)
+        throw std::bad_alloc();
+    ++liveArrays;
     return p;
 }
 
