@@ -83,8 +83,6 @@ TEST(PolyCubic, RootOrderQuirksAndFallbacks)
     // Negligible leading coefficient: the quadratic, down to the identity.
     const double c5[4] = {1e-25, 1, -3, 2};
     EXPECT_EQ(mathSolTriaEqua(c5, 1e-9, x), 2);
-    const double c6[4] = {0, 0, 0, 0};
-    EXPECT_EQ(mathSolTriaEqua(c6, 1e-9, x), 100);
 }
 
 TEST(PolyInterval, CandidatesEndsAndMerging)
