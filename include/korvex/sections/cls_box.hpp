@@ -41,6 +41,7 @@ public:
         : min(xmin, ymin), max(xmax, ymax) {}
     // Minimum corner a, maximum corner b, not sorted.
     Box2D(point_2d const& a, point_2d const& b) : min(a), max(b) {}
+    // Copy of b.
     Box2D(Box2D const& b) = default;
     Box2D& operator=(Box2D const& b) = default;
     // The x and y extents of a Box3D.
@@ -51,6 +52,7 @@ public:
     void EmptyBox() { min.Set(1.0f, 1.0f); max.Set(-1.0f, -1.0f); }
     // Stores xmin, ymin, xmax, ymax in argument order, not sorted.
     void DefineBox(float xmin, float ymin, float xmax, float ymax);
+    // Copy of b.
     void DefineBox(Box2D const& b);
     // The x and y extents of a Box3D.
     void DefineBox(Box3D const& b);
@@ -109,6 +111,7 @@ public:
     int CanInclude(Box2D const& b) const;
     int CanInclude(Box3D const& b) const;
 
+    // ((xmin + xmax) / 2, (ymin + ymax) / 2).
     point_2d GetCenter() const;
     // xmax - xmin and ymax - ymin; negative for an inverted box.
     float GetWidth() const;
@@ -136,6 +139,7 @@ public:
     Box3D() { EmptyBox(); }
     // The flat box spanned by a and b in the plane z = 0 (x and y sorted).
     Box3D(point_2d const& a, point_2d const& b);
+    // Copy of b.
     Box3D(Box3D const& b) = default;
     Box3D& operator=(Box3D const& b) = default;
     // The x and y extents of a Box2D, zmin = zmax = 0.
@@ -143,6 +147,7 @@ public:
 
     // Makes this the empty box.
     void EmptyBox() { min.Set(1.0f, 1.0f, 1.0f); max.Set(-1.0f, -1.0f, -1.0f); }
+    // Copy of b.
     void DefineBox(Box3D const& b);
     // The x and y extents of a Box2D, zmin = zmax = z.
     void DefineBox(Box2D const& b, float z);
@@ -151,6 +156,7 @@ public:
 
     // --- changes ------------------------------------------------------------
 
+    // Shifts both corners by (dx, dy, dz).
     void Move(float dx, float dy, float dz);
     // Minimum corner - (dx, dy, dz), maximum corner + (dx, dy, dz).
     void Grow(float dx, float dy, float dz);
@@ -197,6 +203,7 @@ public:
     // 1 when b lies inside this box, bounds included.
     int CanInclude(Box3D const& b) const;
 
+    // Midpoint of the two corners.
     point_3d GetCenter() const;
     // max - min per axis; negative for an inverted box.
     float GetXWidth() const;

@@ -73,11 +73,13 @@ public:
 
     // --- arithmetic -------------------------------------------------------
 
+    // Componentwise this + b and this - b; the compound forms change this
+    // and return it.
     point_2d operator+(point_2d const& b) const;
-    // this - b.
     point_2d operator-(point_2d const& b) const;
     point_2d& operator+=(point_2d const& b);
     point_2d& operator-=(point_2d const& b);
+    // this scaled by s; the compound form scales this and returns it.
     point_2d operator*(float s) const;
     point_2d& operator*=(float s);
     // This point transformed by a 3x3 matrix m[9]:
@@ -104,6 +106,7 @@ public:
     float Xproduct(point_2d const& b) const;
     // (this x b) x c, with this x b along z: (-z*c.y, z*c.x).
     point_2d Xproduct(point_2d const& b, point_2d const& c) const;
+    // Length of the vector, distance to b and squared distance to b.
     float Length() const;
     float DistFrom(point_2d const& b) const;
     float DistFrom2(point_2d const& b) const;
@@ -174,8 +177,9 @@ KORVEX_API point_2d operator*(float const& s, point_2d const& p);
 KORVEX_API point_2d operator*(float const* m, point_2d const& p);
 KORVEX_API point_2d operator*(float const (*m)[3], point_2d const& p);
 
-// 1 when every inner point pts[1] .. pts[n-2] lies within tol of the segment
-// pts[0]-pts[n-1] (a distance equal to tol passes); 1 for n <= 2.
+// pts[n]: 1 when every inner point pts[1] .. pts[n-2] lies within tol of the
+// segment pts[0]-pts[n-1] (a distance equal to tol passes), else 0. For
+// n <= 2 the result is 1 and pts is not read.
 KORVEX_API int IsPtsColine(point_2d* pts, int n, float tol);
 
 // ---------------------------------------------------------------------------
@@ -242,11 +246,13 @@ public:
 
     // --- arithmetic -------------------------------------------------------
 
+    // Componentwise this + b and this - b; the compound forms change this
+    // and return it.
     point_3d operator+(point_3d const& b) const;
-    // this - b.
     point_3d operator-(point_3d const& b) const;
     point_3d& operator+=(point_3d const& b);
     point_3d& operator-=(point_3d const& b);
+    // this scaled by s; the compound form scales this and returns it.
     point_3d operator*(float s) const;
     point_3d& operator*=(float s);
     // This point transformed by a 4x4 matrix m[16] (row-major):
@@ -268,11 +274,13 @@ public:
 
     // --- products and lengths ---------------------------------------------
 
+    // Dot product this . b.
     float Iproduct(point_3d const& b) const;
     // this x b.
     point_3d Xproduct(point_3d const& b) const;
     // Scalar triple product (this x b) . c.
     float HybridProduct(point_3d const& b, point_3d const& c) const;
+    // Length of the vector, distance to b and squared distance to b.
     float Length() const;
     float DistFrom(point_3d const& b) const;
     float DistFrom2(point_3d const& b) const;
@@ -385,6 +393,8 @@ public:
     float& operator[](int const& i) { return i == 0 ? x : (i == 1 ? y : (i == 2 ? z : w)); }
     float const& operator[](int const& i) const { return i == 0 ? x : (i == 1 ? y : (i == 2 ? z : w)); }
 
+    // Componentwise over all four fields; the compound forms change this and
+    // return it.
     point_4d operator+(point_4d const& b) const;
     point_4d operator-(point_4d const& b) const;
     point_4d& operator+=(point_4d const& b);
