@@ -82,11 +82,15 @@ int UsageError(const std::string& message)
     return exitUsage;
 }
 
-std::string Upper(std::string s)
+// A variable name as the calculator stores it: upper case, with everything
+// but letters and digits dropped ("a_1" is A1).
+std::string VariableName(const std::string& s)
 {
-    for (char& c : s)
-        c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-    return s;
+    std::string name;
+    for (char c : s)
+        if (std::isalnum(static_cast<unsigned char>(c)))
+            name += static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    return name;
 }
 
 // A whole argument as a number: no trailing characters, nothing empty.
@@ -207,7 +211,7 @@ int ReportCalcError(const Calculator& calc, const char* prefix)
 
 int FindVariable(Calculator& calc, const std::string& name)
 {
-    const std::string wanted = Upper(name);
+    const std::string wanted = VariableName(name);
     for (int i = 0; i < calc.GetNumberOfVariables(); ++i)
         if (wanted == calc.GetVariableName(i))
             return i;

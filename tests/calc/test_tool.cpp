@@ -65,7 +65,7 @@ TEST(CalcTool, EvaluatesWithVariablesByName)
     EXPECT_EQ(o.status, 0);
     EXPECT_EQ(o.out, "7\n");
     EXPECT_EQ(o.err, "");
-    EXPECT_EQ(RunTool({"a*x+b", "X=3", "B=1", "A=2"}).out, "7\n");
+    EXPECT_EQ(RunTool({"a*x+b_1", "X=3", "B_1=1", "A=2"}).out, "7\n");
     // Rounding noise of the degree factor stays below the default digits.
     EXPECT_EQ(RunTool({"sin(30)"}).out, "0.5\n");
     EXPECT_EQ(RunTool({"--digits", "3", "1/3"}).out, "0.333\n");
