@@ -122,9 +122,12 @@ KORVEX_API int mathSolUnivEqua(double (*f)(double), double (*df)(double), double
  *   tol      tolerance of the underlying quartics in tan(t/2) (used doubled)
  *   t        out double[4]
  * Returns the number of angles written (0 ... 4; a fifth one is dropped), or
- * 100 when every angle solves (then t[0] = 0). For b = c = 0 (cos t = 0)
- * both quartics are of the degenerate kind described at mathSolQuarEqua and
- * the angles written are not the solutions pi/2, 3*pi/2. */
+ * 100 when every angle solves (then t[0] = 0). The angles of u = tan(t/2)
+ * (abs(u) < 1.0000000001) come first, then those of t = pi - 2 atan(u)
+ * (abs(u) < 0.9999999999), each in the order of the quartic's roots.
+ * For b = c = 0 (cos t = 0) both quartics are u^4 - 1, of the degenerate
+ * kind described at mathSolQuarEqua: the result is 4 with angles near 2*pi,
+ * 0, pi and pi instead of the solutions pi/2 and 3*pi/2. */
 KORVEX_API int mathSolAngleByCCSS(double a, double b, double c, double tol, double t[4]);
 
 /* All roots of a*x^3 + b*x^2 + c*x + d, complex ones included.
