@@ -230,9 +230,12 @@ public:
     void DefMirrorPlane(const point_3d& p, const point_3d& n);
     // Reflection in the plane through p[3] with the normal n[3].
     void DefMirror(const double* p, const double* n);
-    // Right-handed frame with origin o and the Z axis along z; the X axis is
-    // seeded from the coordinate axis along which z is smallest. An axis
-    // too short for Unit() gives the identity.
+    // Right-handed frame with origin o and the Z axis along z (o[3] and
+    // z[3] in the second form). The Y axis is z x seed and the X axis
+    // Y x z, where the seed is the coordinate axis along which z has its
+    // smallest absolute component; ties go to Z, then Y, so z = (0, 0, 1)
+    // gives the X axis (0, 1, 0) and the Y axis (-1, 0, 0). A z too short
+    // for Unit() gives the identity.
     void Define(point_3d o, point_3d z);
     void Define(const double* o, const double* z);
     // Frame with origin o, Z axis z, X axis x and Y axis z x x, each
