@@ -23,32 +23,32 @@ void expectNear(const Matrix &a, const Matrix &b, double tol)
         EXPECT_NEAR(a[i], b[i], tol) << "at index " << i;
 }
 
-// Checks the four Moore-Penrose conditions of X (cols x rows) for A.
+// The four Moore-Penrose conditions of X (cols x rows) for A.
 void expectPseudoInverse(const Matrix &A, const Matrix &X, int rows, int cols)
 {
     const Matrix AX = multiply(A, X, rows, cols, rows);
     const Matrix XA = multiply(X, A, cols, rows, cols);
     expectNear(multiply(AX, A, rows, rows, cols), A, 1e-12);
     expectNear(multiply(XA, X, cols, cols, rows), X, 1e-12);
-    for (int i = 0; i < rows; ++i)
-        for (int j = 0; j < rows; ++j)
-            EXPECT_NEAR(AX[i * rows + j], AX[j * rows + i], 1e-12);
-    for (int i = 0; i < cols; ++i)
-        for (int j = 0; j < cols; ++j)
-            EXPECT_NEAR(XA[i * cols + j], XA[j * cols + i], 1e-12);
+    for (int i = 0; i < rows * rows; ++i)
+        EXPECT_NEAR(AX[i], AX[(i % rows) * rows + i / rows], 1e-12);
+    for (int i = 0; i < cols * cols; ++i)
+        EXPECT_NEAR(XA[i], XA[(i % cols) * cols + i / cols], 1e-12);
 }
 
 } // namespace
 
-TEST(MatrixKernel, ProductTransposeAndCopy)
+TEST(MatrixKernel, ProductTransposeCopyAndEmptyDimensions)
 {
-    const Matrix A = {1, 2, 3, 4, 5, 6};    // 2 x 3
-    const Matrix B = {1, 0, 0, 1, 1, 1};    // 3 x 2
+    const Matrix A = {1, 2, 3, 4, 5, 6}; // 2 x 3
+    const Matrix B = {1, 0, 0, 1, 1, 1}; // 3 x 2
     expectNear(multiply(A, B, 2, 3, 2), {4, 5, 10, 11}, 0.0);
-
-    Matrix At(6, -1.0);
+    Matrix At(6);
     mathMatxTrans(2, 3, A.data(), At.data());
     expectNear(At, {1, 4, 2, 5, 3, 6}, 0.0);
+    Matrix dst(6); // the copy takes the source first
+    mathMatxCopy(A.data(), dst.data(), 2, 3);
+    expectNear(dst, A, 0.0);
 
     // Empty dimensions write nothing, also when both are negative.
     Matrix untouched(4, 7.0);
@@ -62,42 +62,25 @@ TEST(MatrixKernel, ProductTransposeAndCopy)
     EXPECT_EQ(mathMatxInvs(2, -1, A.data(), untouched.data()), 1);
     EXPECT_EQ(mathSolLineEqua(-2, A.data(), B.data(), untouched.data()), 1);
     expectNear(untouched, Matrix(4, 7.0), 0.0);
-
-    // The copy takes the source first.
-    Matrix dst(6);
-    mathMatxCopy(A.data(), dst.data(), 2, 3);
-    expectNear(dst, A, 0.0);
-
-    EXPECT_EQ(mathCalDeterm22(1, 2, 3, 4), -2.0);
-    EXPECT_EQ(mathCalDeterm33(2, 0, 1, 1, 3, 2, 1, 1, 2), 6.0);
 }
 
-TEST(PseudoInverse, RankDeficientMatricesSatisfyPenroseConditions)
+TEST(PseudoInverse, ZeroAndRankDeficientMatrices)
 {
     Matrix X(6, 9.0);
-    const Matrix zero(6, 0.0);
-    EXPECT_EQ(mathMatxInvs(2, 3, zero.data(), X.data()), 1);
+    EXPECT_EQ(mathMatxInvs(2, 3, Matrix(6, 0.0).data(), X.data()), 1);
     expectNear(X, Matrix(6, 0.0), 0.0);
 
-    // Two equal columns.
-    const Matrix twin = {1, 1, 2, 2, 3, 3};  // 3 x 2
-    Matrix Xt(6);
-    ASSERT_EQ(mathMatxInvs(3, 2, twin.data(), Xt.data()), 1);
-    expectPseudoInverse(twin, Xt, 3, 2);
+    const Matrix twin = {1, 1, 2, 2, 3, 3}; // 3 x 2, equal columns
+    ASSERT_EQ(mathMatxInvs(3, 2, twin.data(), X.data()), 1);
+    expectPseudoInverse(twin, X, 3, 2);
 
-    // Rank 2 in 3 x 4, with a zero column first and a dependent last one.
+    // Rank 2 in 3 x 4: a zero column first, a dependent one last.
     const Matrix wide = {0, 1, 0, 1,
                          0, 0, 1, 1,
                          0, 1, 1, 2};
     Matrix Xw(12);
     ASSERT_EQ(mathMatxInvs(3, 4, wide.data(), Xw.data()), 1);
     expectPseudoInverse(wide, Xw, 3, 4);
-
-    // A regular matrix gets its ordinary inverse.
-    const Matrix regular = {4, 7, 2, 6};
-    Matrix Xr(4);
-    ASSERT_EQ(mathMatxInvs(2, 2, regular.data(), Xr.data()), 1);
-    expectNear(Xr, {0.6, -0.7, -0.2, 0.4}, 1e-14);
 }
 
 TEST(InverseByRowOperations, PivotsOnFirstUsableRow)
@@ -106,13 +89,11 @@ TEST(InverseByRowOperations, PivotsOnFirstUsableRow)
                 1, 1, 0,
                 2, 0, 3};
     const Matrix original = A;
-    Matrix inv(9);
+    Matrix inv(9), I(9);
     ASSERT_EQ(mathMatxInvsByET(3, A.data(), inv.data()), 1);
-    Matrix I(9);
     mathUnitMatx(3, I.data());
     expectNear(multiply(original, inv, 3, 3, 3), I, 1e-14);
-    // A ends in echelon form.
-    EXPECT_EQ(A[3], 0.0);
+    EXPECT_EQ(A[3], 0.0); // A ends in echelon form
     EXPECT_EQ(A[6], 0.0);
     EXPECT_EQ(A[7], 0.0);
 
@@ -128,13 +109,14 @@ TEST(GaussEliminate, CompletePivotingAndAbsoluteSingularityTest)
     EXPECT_EQ(b[0], 5.0);
     EXPECT_EQ(b[1], 3.0);
 
-    // Regular, but every element is below the absolute pivot threshold.
-    Matrix tiny = {1e-17, 0, 0, 1e-17};
-    double bt[2] = {1, 1};
+    // Regular, but every element is below the absolute pivot threshold; a
+    // scale of 1e-9 is still well above it.
+    Matrix tiny = {1e-17, 0, 0, 1e-17}, tiny1 = {1e-17}, small = {1e-9, 0, 0, 2e-9};
+    double bt[2] = {1, 1}, b1 = 1, bs[2] = {1e-9, 1e-9};
     EXPECT_EQ(mathGaussEliminate(tiny.data(), bt, 2), 0);
-    Matrix tiny1 = {1e-17};
-    double b1 = 1;
     EXPECT_EQ(mathGaussEliminate(tiny1.data(), &b1, 1), 0);
+    ASSERT_EQ(mathGaussEliminate(small.data(), bs, 2), 1);
+    EXPECT_NEAR(bs[0], 1.0, 1e-12);
 
     // Column exchanges are undone on the solution.
     const Matrix A = {1, 2, 3, 4,
@@ -142,68 +124,53 @@ TEST(GaussEliminate, CompletePivotingAndAbsoluteSingularityTest)
                       0, 5, 1, 2,
                       7, 1, 1, 1};
     const Matrix x = {1, -2, 0.5, 3};
-    Matrix rhs = multiply(A, x, 4, 4, 1);
-    Matrix work = A;
+    Matrix rhs = multiply(A, x, 4, 4, 1), work = A;
     ASSERT_EQ(mathGaussEliminate(work.data(), rhs.data(), 4), 1);
     expectNear(rhs, x, 1e-13);
 
     Matrix singular = {1, 2, 2, 4};
-    double bs[2] = {1, 2};
-    EXPECT_EQ(mathGaussEliminate(singular.data(), bs, 2), 0);
+    EXPECT_EQ(mathGaussEliminate(singular.data(), b, 2), 0);
 }
 
 TEST(SolLineEqua, SingularSystemsFallBackToMinimumNorm)
 {
-    // x + y = 2 twice: the minimum-norm solution is (1, 1).
+    // x + y = 2 twice, and the inconsistent x + y = 1, x + y = 3: both
+    // give (1, 1), and A and b stay as they were.
     const Matrix A = {1, 1, 1, 1};
-    const double b[2] = {2, 2};
-    double x[2] = {0, 0};
-    ASSERT_EQ(mathSolLineEqua(2, A.data(), b, x), 1);
-    EXPECT_NEAR(x[0], 1.0, 1e-14);
-    EXPECT_NEAR(x[1], 1.0, 1e-14);
-    EXPECT_EQ(A[0], 1.0);
-    EXPECT_EQ(b[0], 2.0);
+    for (const Matrix &b : {Matrix{2, 2}, Matrix{1, 3}}) {
+        const Matrix b0 = b;
+        double x[2] = {0, 0};
+        ASSERT_EQ(mathSolLineEqua(2, A.data(), b.data(), x), 1);
+        EXPECT_NEAR(x[0], 1.0, 1e-14);
+        EXPECT_NEAR(x[1], 1.0, 1e-14);
+        EXPECT_EQ(b, b0);
+    }
+    EXPECT_EQ(A, Matrix(4, 1.0));
 
-    // Inconsistent: the least-squares answer of x + y = 1, x + y = 3.
-    const double b2[2] = {1, 3};
-    ASSERT_EQ(mathSolLineEqua(2, A.data(), b2, x), 1);
-    EXPECT_NEAR(x[0], 1.0, 1e-14);
-    EXPECT_NEAR(x[1], 1.0, 1e-14);
-
-    // Tiny but regular: both the pivot test and the column test of the
-    // pseudo-inverse are absolute, so the matrix counts as zero.
+    // Tiny but regular: the pivot test and the column test of the
+    // pseudo-inverse are both absolute, so the matrix counts as zero.
     const Matrix tiny = {1e-17, 0, 0, 2e-17};
     const double bt[2] = {1e-17, 1e-17};
+    double x[2] = {5, 5};
     ASSERT_EQ(mathSolLineEqua(2, tiny.data(), bt, x), 1);
     EXPECT_EQ(x[0], 0.0);
     EXPECT_EQ(x[1], 0.0);
-    // A scale of 1e-9 is still well above the pivot threshold.
-    const Matrix small = {1e-9, 0, 0, 2e-9};
-    Matrix work = small;
-    double bw[2] = {1e-9, 1e-9};
-    ASSERT_EQ(mathGaussEliminate(work.data(), bw, 2), 1);
-    EXPECT_NEAR(bw[0], 1.0, 1e-12);
-
 }
 
-TEST(SmallSystems, CramerRulesLeaveOutputsOnFailure)
+TEST(SmallSystems, CramerRulesAreStrictAndLeaveOutputsOnFailure)
 {
     double x = 7, y = 8, z = 9;
     ASSERT_EQ(mathSolLineEqua22(2, 1, 1, 3, 3, 5, 1e-12, &x, &y), 1);
     EXPECT_NEAR(x, 0.8, 1e-15);
     EXPECT_NEAR(y, 1.4, 1e-15);
-    x = 7;
-    y = 8;
     EXPECT_EQ(mathSolLineEqua22(1, 2, 2, 4, 1, 1, 1e-12, &x, &y), 0);
-    EXPECT_EQ(x, 7.0);
-    EXPECT_EQ(y, 8.0);
+    EXPECT_NEAR(x, 0.8, 1e-15);
 
-    ASSERT_EQ(mathSolLineEqua33(2, 0, 1, 1, 3, 2, 1, 1, 2, 3, 6, 4, 1e-12, &x, &y, &z), 1);
+    // |det| = 6 is not below a tolerance of 6.
+    ASSERT_EQ(mathSolLineEqua33(2, 0, 1, 1, 3, 2, 1, 1, 2, 3, 6, 4, 6.0, &x, &y, &z), 1);
     EXPECT_NEAR(x, 1.0, 1e-15);
     EXPECT_NEAR(y, 1.0, 1e-15);
     EXPECT_NEAR(z, 1.0, 1e-15);
-    // |det| = 6 is not below a tolerance of 6: the test is strict.
-    EXPECT_EQ(mathSolLineEqua33(2, 0, 1, 1, 3, 2, 1, 1, 2, 3, 6, 4, 6.0, &x, &y, &z), 1);
     x = y = z = 4;
     EXPECT_EQ(mathSolLineEqua33(2, 0, 1, 1, 3, 2, 1, 1, 2, 3, 6, 4, 6.5, &x, &y, &z), 0);
     EXPECT_EQ(x, 4.0);
@@ -222,8 +189,8 @@ TEST(SmallSystems, HomogeneousTwoByTwo)
     EXPECT_NEAR(v[0], -4 / std::sqrt(20.0), 1e-15);
     EXPECT_NEAR(v[1], 2 / std::sqrt(20.0), 1e-15);
 
-    // Independent rows of equal length: the candidate comes from the
-    // second row and is kept.
+    // Independent rows: the candidate is kept; on a tie of lengths it comes
+    // from the second row.
     EXPECT_EQ(mathSolHomoEqua22(1, 0, 0, 1, 1e-9, v), 0);
     EXPECT_EQ(v[0], -1.0);
     EXPECT_EQ(v[1], 0.0);
@@ -236,6 +203,7 @@ TEST(TrigonometricEquations, RootsCountsAndDegenerateCases)
 {
     const double twoPi = 6.283185307179586;
     double t[2];
+    // The root 0 seen at both ends of the period.
     ASSERT_EQ(mathSolExpoEqua(1, 0, 1, 1e-6, t), 1);
     EXPECT_EQ(t[0], 0.0);
     EXPECT_EQ(t[1], twoPi);
@@ -245,26 +213,22 @@ TEST(TrigonometricEquations, RootsCountsAndDegenerateCases)
     EXPECT_EQ(t[0], 0.0);
     EXPECT_EQ(t[1], 1.5707963267948966);
 
-    // Two roots, each solving the equation.
     ASSERT_EQ(mathSolExpoEqua(1, 1, 1, 1e-9, t), 2);
+    EXPECT_NE(t[0], t[1]);
     for (double r : t) {
         EXPECT_NEAR(std::cos(r) + std::sin(r), 1.0, 1e-12);
-        EXPECT_GE(r, 0.0);
-        EXPECT_LE(r, twoPi);
+        EXPECT_TRUE(r >= 0.0 && r <= twoPi);
     }
-    EXPECT_NE(t[0], t[1]);
-
     // Tangency: the right side equals the amplitude.
     ASSERT_EQ(mathSolExpoEqua(0, 2, 2, 1e-9, t), 1);
     EXPECT_NEAR(t[0], 1.5707963267948966, 1e-12);
     EXPECT_EQ(t[0], t[1]);
 
-    // cos^2 t - sin^2 t = cos 2t = 0 on [0, pi].
+    // cos^2 t - sin^2 t = cos 2t = 0 on [0, pi]; cos^2 + sin^2 has no root.
     ASSERT_EQ(mathSolHomoEqua(1, 0, -1, 1e-9, t), 2);
     EXPECT_NEAR(std::fmin(t[0], t[1]), 0.7853981633974483, 1e-12);
     EXPECT_NEAR(std::fmax(t[0], t[1]), 2.356194490192345, 1e-12);
     EXPECT_EQ(mathSolHomoEqua(0, 0, 0, 1e-9, t), 100);
-    // cos^2 + sin^2 = 0 has no root.
     EXPECT_EQ(mathSolHomoEqua(1, 0, 1, 1e-9, t), 0);
 }
 
@@ -277,9 +241,8 @@ TEST(DecomposeVector, RegularAndCoplanarDirections)
     for (int i = 0; i < 3; ++i)
         EXPECT_NEAR(c1 * e1[i] + c2 * e2[i] + c3 * e3[i], v[i], 1e-14);
 
-    // e1 and e2 along x: the x part is split evenly (minimum norm).
-    const double w[3] = {2, 3, 0};
-    const double x[3] = {1, 0, 0}, y[3] = {0, 1, 0};
+    // Two directions along x: the x part is split evenly (minimum norm).
+    const double w[3] = {2, 3, 0}, x[3] = {1, 0, 0}, y[3] = {0, 1, 0};
     ASSERT_EQ(mathDecVec(w, x, x, y, &c1, &c2, &c3), 1);
     EXPECT_NEAR(c1, 1.0, 1e-14);
     EXPECT_NEAR(c2, 1.0, 1e-14);
@@ -296,12 +259,11 @@ TEST(LeastSquares, ScalarPairAndClosestPointsOfLines)
     EXPECT_EQ(x, 0.0);
 
     double xy[2];
-    const double e2[3] = {0, 1, 0}, c[3] = {2, 5, 7};
+    const double e2[3] = {0, 1, 0}, c[3] = {2, 5, 7}, twoA[3] = {2, 0, 0};
     ASSERT_EQ(mathSolLeastSquare32(a, e2, c, xy), 1);
     EXPECT_NEAR(xy[0], 2.0, 1e-15);
     EXPECT_NEAR(xy[1], 5.0, 1e-15);
-    // Parallel a and 2a: the fit 2 is shared so that x0 = x1 * |a| / |2a|.
-    const double twoA[3] = {2, 0, 0};
+    // Parallel a and 2a: the fit is shared so that x0 = x1 |a| / |2a|.
     ASSERT_EQ(mathSolLeastSquare32(a, twoA, c, xy), 1);
     EXPECT_NEAR(xy[0] + 2 * xy[1], 2.0, 1e-15);
     EXPECT_NEAR(xy[0], 0.5 * xy[1], 1e-15);
@@ -309,17 +271,15 @@ TEST(LeastSquares, ScalarPairAndClosestPointsOfLines)
     EXPECT_EQ(xy[0], 0.0);
     EXPECT_EQ(xy[1], 0.0);
 
-    // Skew lines: x axis and a line parallel to y through (2, 0, 3).
-    const double P1[3] = {0, 0, 0}, d1[3] = {1, 0, 0};
-    const double P2[3] = {2, -1, 3}, d2[3] = {0, 2, 0};
+    // Skew lines: the x axis and a line along y through (2, 0, 3).
+    const double P1[3] = {0, 0, 0}, P2[3] = {2, -1, 3}, d2[3] = {0, 2, 0};
     double t[2];
-    ASSERT_EQ(mathSolLeastSquareLin(P1, d1, P2, d2, t), 1);
+    ASSERT_EQ(mathSolLeastSquareLin(P1, a, P2, d2, t), 1);
     EXPECT_NEAR(t[0], 2.0, 1e-14);
     EXPECT_NEAR(t[1], 0.5, 1e-14);
-
     // Parallel unit lines: the projections of the midpoint of P1 and P2.
     const double Q1[3] = {1, 0, 0}, Q2[3] = {5, 2, 0};
-    ASSERT_EQ(mathSolLeastSquareLin(Q1, d1, Q2, d1, t), 1);
+    ASSERT_EQ(mathSolLeastSquareLin(Q1, a, Q2, a, t), 1);
     EXPECT_EQ(t[0], 2.0);
     EXPECT_EQ(t[1], -2.0);
 }
