@@ -34,8 +34,11 @@ KORVEX_API int mathChkOriInQuad2D(const double a[2], const double b[2], const do
                                   double tol);
 
 /* Whether the origin lies in the triangle ABC, with its barycentric weights.
- * A vertex within tol of the origin gets weight 1, an edge passing within
- * about tol of the origin gets the weights of the two ends.
+ * After the box test of mathChkOriInTri2D: a vertex closer than tol to the
+ * origin (A, B, C in this order) gets weight 1; then an edge PQ that the
+ * origin lies on, |P| + |Q| < |PQ| + tol (AB, AC, CB in this order), gets
+ * weight |Q| / (|P| + |Q|) at P and the rest at Q; otherwise the weights
+ * are those of mathCalTri2DGCO.
  *   a, b, c  double[2]
  *   tol      distance tolerance
  *   w        out double[3] weights
