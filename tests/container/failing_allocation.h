@@ -20,7 +20,7 @@
 namespace {
 
 int allocationsUntilFailure = 0; // 0: never fail
-int liveArrays = 0;              // nothrow arrays made and not yet released
+int liveArrays = 0;              // arrays made and not yet released
 
 // The n-th nothrow array allocation from now on (n >= 1) returns null;
 // later ones succeed again.
