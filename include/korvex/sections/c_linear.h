@@ -153,9 +153,12 @@ KORVEX_API int mathSolHomoEqua22(double a, double b, double c, double d, double 
  *   tol  tolerance on the equation
  *   t    out double[2], first set to (0, pi/2)
  * Returns the number of roots written (0, 1 or 2) or 100 when every t
- * solves. A double root (tangency) gives 1 with both entries equal. A root
- * at 0 is found at both ends of the period: the result is then 1 with
- * t = (0, 2 pi). Roots lie in [0, 2 pi], unsorted. */
+ * solves: when the amplitude r = sqrt(a^2 + b^2) is below 1e-20 and
+ * |c| < tol, or when both |c - r| and |c + r| are below tol. A double root
+ * (tangency) gives 1 with both entries equal. Two roots more than
+ * 2 pi - 1e-11 apart are one angle at both ends of the period (the root 0):
+ * the result is then 1 with t = (0, 2 pi). Roots lie in [0, 2 pi],
+ * unsorted. */
 KORVEX_API int mathSolExpoEqua(double a, double b, double c, double tol, double t[2]);
 
 /* Solves a cos^2 t + b cos t sin t + c sin^2 t = 0 for t in [0, pi].
@@ -181,8 +184,9 @@ KORVEX_API int mathSolLeastSquare31(const double a[3], const double b[3], double
 
 /* x minimising |x0 a + x1 b - c| through the normal equations.
  *   a, b, c  double[3];  x  out double[2]
- * When a and b are parallel the split between them follows their lengths;
- * when b is (nearly) zero x = (0, 0). Returns 1. */
+ * When a and b are parallel (the determinant of the normal equations is
+ * below 1e-100) the fit is split between them in proportion to their
+ * lengths, and x = (0, 0) when b.b < 1e-50. Returns 1. */
 KORVEX_API int mathSolLeastSquare32(const double a[3], const double b[3], const double c[3],
                                     double x[2]);
 
