@@ -176,20 +176,20 @@ int ParseArguments(int argc, char** argv, Options& options)
     return exitOk;
 }
 
-int ParseSweep(const std::string& spec, Sweep& sweep)
+int ParseSweep(const std::string& text, Sweep& sweep)
 {
-    const size_t equals = spec.find('=');
+    const size_t equals = text.find('=');
     if (equals == std::string::npos || equals == 0)
-        return UsageError("--sweep needs NAME=START:END:STEP, got '" + spec + "'");
-    sweep.name = spec.substr(0, equals);
-    const std::string range = spec.substr(equals + 1);
+        return UsageError("--sweep needs NAME=START:END:STEP, got '" + text + "'");
+    sweep.name = text.substr(0, equals);
+    const std::string range = text.substr(equals + 1);
     const size_t colon1 = range.find(':');
     const size_t colon2 = colon1 == std::string::npos ? colon1 : range.find(':', colon1 + 1);
     if (colon2 == std::string::npos ||
         !ParseNumber(range.substr(0, colon1), sweep.start) ||
         !ParseNumber(range.substr(colon1 + 1, colon2 - colon1 - 1), sweep.end) ||
         !ParseNumber(range.substr(colon2 + 1), sweep.step))
-        return UsageError("--sweep needs NAME=START:END:STEP with three numbers, got '" + spec +
+        return UsageError("--sweep needs NAME=START:END:STEP with three numbers, got '" + text +
                           "'");
     const long maxRows = 1000000;
     // A step that falls a hair short of END still reaches it.
