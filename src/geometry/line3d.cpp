@@ -1,18 +1,16 @@
 // Lines in space: distances, projections, directions and parameters.
 #include "korvex/capi.h"
+#include "geometry/vec3.hpp"
 
 #include <cmath>
+
+using korvex_geometry::dot3;
 
 namespace {
 
 // Below this length two points do not define a direction for the distance
 // and projection functions.
 const double kMinDirLength = 1e-10;
-
-inline double dot3(const double a[3], const double b[3])
-{
-    return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
-}
 
 } // namespace
 

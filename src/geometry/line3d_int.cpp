@@ -1,23 +1,11 @@
 // Intersections of lines in space and the common plane of two lines.
 #include "korvex/capi.h"
+#include "geometry/vec3.hpp"
 
 #include <cmath>
 
-namespace {
-
-inline double dot3(const double a[3], const double b[3])
-{
-    return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
-}
-
-inline void copy3(const double s[3], double t[3])
-{
-    t[0] = s[0];
-    t[1] = s[1];
-    t[2] = s[2];
-}
-
-} // namespace
+using korvex_geometry::copy3;
+using korvex_geometry::dot3;
 
 int mathIntLin(const double l1[3], const double d1[3], const double l2[3], const double d2[3],
                double distTol, double paraTol, double c1[3], double c2[3])

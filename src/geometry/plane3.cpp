@@ -1,14 +1,8 @@
 // Common point of three planes.
 #include "korvex/capi.h"
+#include "geometry/vec3.hpp"
 
-namespace {
-
-inline double dot3(const double a[3], const double b[3])
-{
-    return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
-}
-
-} // namespace
+using korvex_geometry::dot3;
 
 int mathInt3Pln(const double p1[3], const double n1[3], const double p2[3], const double n2[3],
                 const double p3[3], const double n3[3], double tol, double x[3])
