@@ -73,18 +73,25 @@ void TransPoint3D(const point_2d& p, point_2d* q, const float* m)
 
 // ---- Double matrices ----------------------------------------------------------
 
-void mathMatrixPt_2D(const point_2d& p, point_3d& q, const double* m)
+namespace {
+
+// (x, y, z, 1) times the double 4x4 m, rounded to float on the way out.
+void transformByDouble16(double x, double y, double z, point_3d& q, const double* m)
 {
-    const double x = p.x;
-    const double y = p.y;
-    // The point lies in z = 0: the third row is weighted by zero.
-    const double z = 0.0;
     const double rx = x * m[0] + y * m[4] + z * m[8] + m[12];
     const double ry = x * m[1] + y * m[5] + z * m[9] + m[13];
     const double rz = x * m[2] + y * m[6] + z * m[10] + m[14];
     q.x = static_cast<float>(rx);
     q.y = static_cast<float>(ry);
     q.z = static_cast<float>(rz);
+}
+
+} // namespace
+
+void mathMatrixPt_2D(const point_2d& p, point_3d& q, const double* m)
+{
+    // The point lies in z = 0: the third row is weighted by zero.
+    transformByDouble16(p.x, p.y, 0.0, q, m);
 }
 
 void mathMatrixNDPt_2D(const nd_point_2d& p, point_3d& q, const double* m)
@@ -94,13 +101,5 @@ void mathMatrixNDPt_2D(const nd_point_2d& p, point_3d& q, const double* m)
 
 void mathMatrixPt_3D(const point_3d& p, point_3d& q, const double* m)
 {
-    const double x = p.x;
-    const double y = p.y;
-    const double z = p.z;
-    const double rx = x * m[0] + y * m[4] + z * m[8] + m[12];
-    const double ry = x * m[1] + y * m[5] + z * m[9] + m[13];
-    const double rz = x * m[2] + y * m[6] + z * m[10] + m[14];
-    q.x = static_cast<float>(rx);
-    q.y = static_cast<float>(ry);
-    q.z = static_cast<float>(rz);
+    transformByDouble16(p.x, p.y, p.z, q, m);
 }
