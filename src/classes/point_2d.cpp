@@ -248,22 +248,39 @@ double point_2d::AngleToYAxis() const
 
 namespace {
 
+// Foot point, parameter and distance of a projection, computed before any
+// output is written: the caller's foot, t or dist may be this point or one of
+// the end points (projecting a point onto a line in place).
+struct Projection {
+    point_2d foot;
+    float t;
+    float dist;
+};
+
 // Shared start of the segment and line projections: when a-b is shorter than
 // the distance tolerance the segment is the point a. Returns true when it
-// filled t, foot and dist for that case; d receives b - a and lenSq |d|^2.
+// filled out for that case; d receives b - a and lenSq |d|^2.
 bool projectOnPoint(point_2d const& p, point_2d const& a, point_2d const& b,
-                    float& t, point_2d& foot, float& dist, point_2d& d, float& lenSq)
+                    Projection& out, point_2d& d, float& lenSq)
 {
     d = b - a;
     lenSq = d.Iproduct(d);
     const float len = std::sqrt(lenSq);
     if (static_cast<double>(len) < gmGetDistTol()) {
-        t = 0.0f;
-        foot = a;
-        dist = p.DistFrom(a);
+        out.foot = a;
+        out.t = 0.0f;
+        out.dist = p.DistFrom(a);
         return true;
     }
     return false;
+}
+
+int deliver(Projection const& r, float& t, point_2d& foot, float& dist)
+{
+    foot = r.foot;
+    t = r.t;
+    dist = r.dist;
+    return 1;
 }
 
 } // namespace
@@ -271,49 +288,51 @@ bool projectOnPoint(point_2d const& p, point_2d const& a, point_2d const& b,
 int point_2d::GetDistLineSeg(point_2d const& a, point_2d const& b, float& t,
                              point_2d& foot, float& dist) const
 {
+    Projection r;
     point_2d d;
     float lenSq = 0.0f;
-    if (projectOnPoint(*this, a, b, t, foot, dist, d, lenSq))
-        return 1;
+    if (projectOnPoint(*this, a, b, r, d, lenSq))
+        return deliver(r, t, foot, dist);
 
     const float tp = (*this - a).Iproduct(d) / lenSq;
     const double slack = gmGetParaTol();
     const double td = static_cast<double>(tp);
     if (td > -slack && td <= 1.0 + slack) {
         // The perpendicular foot lies on the segment, give or take the slack.
-        foot = a + d * tp;
-        dist = DistFrom(foot);
-        t = tp;
-        return 1;
+        r.foot = a + d * tp;
+        r.dist = DistFrom(r.foot);
+        r.t = tp;
+        return deliver(r, t, foot, dist);
     }
 
     // The foot lies beyond an end: the nearer end point wins, b on a tie.
     const float da = DistFrom(a);
     const float db = DistFrom(b);
     if (db > da) {
-        dist = da;
-        foot = a;
-        t = 0.0f;
+        r.dist = da;
+        r.foot = a;
+        r.t = 0.0f;
     } else {
-        dist = db;
-        foot = b;
-        t = 1.0f;
+        r.dist = db;
+        r.foot = b;
+        r.t = 1.0f;
     }
-    return 1;
+    return deliver(r, t, foot, dist);
 }
 
 int point_2d::GetProjectPoint(point_2d const& a, point_2d const& b, float& t,
                               point_2d& foot, float& dist) const
 {
+    Projection r;
     point_2d d;
     float lenSq = 0.0f;
-    if (projectOnPoint(*this, a, b, t, foot, dist, d, lenSq))
-        return 1;
+    if (projectOnPoint(*this, a, b, r, d, lenSq))
+        return deliver(r, t, foot, dist);
 
-    t = (*this - a).Iproduct(d) / lenSq;
-    foot = a + d * t;
-    dist = DistFrom(foot);
-    return 1;
+    r.t = (*this - a).Iproduct(d) / lenSq;
+    r.foot = a + d * r.t;
+    r.dist = DistFrom(r.foot);
+    return deliver(r, t, foot, dist);
 }
 
 float point_2d::GetDistLineSeg(point_2d const& a, point_2d const& b) const

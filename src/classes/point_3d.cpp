@@ -269,24 +269,33 @@ int point_3d::GetMinDistance(point_3d const& a, point_3d const& b, float& t,
 {
     const point_3d d = b - a;
     const float lenSq = d.Iproduct(d);
+    // Everything is computed before the outputs are written: foot, t or dist
+    // may be this point or an end point (projecting a point in place).
+    float tp = 0.0f;
+    point_3d fp;
     // The squared length meets the tolerance: a very short line is its
     // start point.
     if (static_cast<double>(lenSq) < gmGetAbsDistTol()) {
-        t = 0.0f;
-        foot = a;
+        fp = a;
     } else {
-        t = (*this - a).Iproduct(d) / lenSq;
-        foot = a + d * t;
+        tp = (*this - a).Iproduct(d) / lenSq;
+        fp = a + d * tp;
     }
-    dist = DistFrom(foot);
+    const float dp = DistFrom(fp);
+    foot = fp;
+    t = tp;
+    dist = dp;
     return 1;
 }
 
 float point_3d::GetDistLine(point_3d const& a, point_3d const& d, float& t) const
 {
-    t = (*this - a).Iproduct(d);
-    const point_3d foot = a + d * t;
-    return DistFrom(foot);
+    // t is written last: it may be one of the coordinates read here.
+    const float tp = (*this - a).Iproduct(d);
+    const point_3d foot = a + d * tp;
+    const float dist = DistFrom(foot);
+    t = tp;
+    return dist;
 }
 
 int point_3d::IsOnSeg(point_3d const& a, point_3d const& b) const

@@ -223,6 +223,38 @@ TEST(Point2D, SegmentParameterWindowAndTies)
     EXPECT_EQ(foot.x, 1.0f);
 }
 
+// Projecting a point in place: the foot output is the point itself or an end
+// point, and the distance must still be that of the original point.
+TEST(Point2D, ProjectionOutputsMayAliasInputs)
+{
+    const point_2d a(0.0f, 0.0f), b(4.0f, 0.0f);
+    float t = 9.0f, dist = 9.0f;
+
+    point_2d p(2.0f, 3.0f);
+    p.GetDistLineSeg(a, b, t, p, dist);
+    EXPECT_EQ(p.x, 2.0f);
+    EXPECT_EQ(p.y, 0.0f);
+    EXPECT_EQ(dist, 3.0f);
+
+    point_2d q(6.0f, 3.0f);
+    q.GetProjectPoint(a, b, t, q, dist);
+    EXPECT_EQ(q.x, 6.0f);
+    EXPECT_EQ(t, 1.5f);
+    EXPECT_EQ(dist, 3.0f);
+
+    // Degenerate segment: the foot is a, the distance that from the old point.
+    point_2d r(3.0f, 4.0f);
+    r.GetDistLineSeg(a, a, t, r, dist);
+    EXPECT_EQ(r.x, 0.0f);
+    EXPECT_EQ(dist, 5.0f);
+
+    // The foot written over the end point a.
+    point_2d end = a;
+    point_2d(2.0f, 3.0f).GetDistLineSeg(end, b, t, end, dist);
+    EXPECT_EQ(end.x, 2.0f);
+    EXPECT_EQ(dist, 3.0f);
+}
+
 TEST(Point2D, OnLineAndCollinearity)
 {
     const point_2d a(0.0f, 0.0f), b(1.0f, 0.0f);

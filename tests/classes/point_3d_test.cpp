@@ -127,6 +127,16 @@ TEST(Point3D, LineDistancesAndSegmentTest)
                     std::sqrt(10.0f));
     EXPECT_FLOAT_EQ(t, 2.0f);
 
+    // In place: foot (or t) may be the projected point itself.
+    point_3d p(2, 3, 0);
+    p.GetMinDistance(a, point_3d(4, 0, 0), t, p, dist);
+    EXPECT_EQ(p.x, 2.0f);
+    EXPECT_EQ(p.y, 0.0f);
+    EXPECT_EQ(dist, 3.0f);
+    point_3d q(2, 3, 0);
+    EXPECT_EQ(q.GetDistLine(point_3d(1, 0, 0), point_3d(1, 0, 0), q.x), 3.0f);
+    EXPECT_EQ(q.x, 1.0f);
+
     const point_3d b(1, 1, 1);
     EXPECT_EQ(point_3d(0.5f, 0.5f, 0.5f).IsOnSeg(a, b), 1);
     EXPECT_EQ(b.IsOnSeg(a, b), 1);
