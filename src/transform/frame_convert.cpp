@@ -31,8 +31,12 @@ double* mathTransWorldPnt3DTo2DByOXY(const double o[3], const double x[3], const
 {
     double d[3];
     mathGetVec(o, p, d);
-    q[0] = mathOProduct(d, x);
-    q[1] = mathOProduct(d, y);
+    // Both coordinates are taken before q is written: q may share its
+    // storage with one of the axes.
+    const double lx = mathOProduct(d, x);
+    const double ly = mathOProduct(d, y);
+    q[0] = lx;
+    q[1] = ly;
     return q;
 }
 

@@ -114,6 +114,11 @@ TEST(FrameConversion, SeparateAxes)
     expectNear3(b, p, 1e-14);
     EXPECT_EQ(mathTransWorldPnt3DTo2DByOXY(f.origin, f.xAxis, f.yAxis, p, c), c);
     EXPECT_EQ(c[1], a[1]);
+    // The output may share its storage with the y axis.
+    double yq[3] = {f.yAxis[0], f.yAxis[1], f.yAxis[2]};
+    mathTransWorldPnt3DTo2DByOXY(f.origin, f.xAxis, yq, p, yq);
+    EXPECT_EQ(yq[0], c[0]);
+    EXPECT_EQ(yq[1], c[1]);
     EXPECT_EQ(mathTransWorldVec3DByXYZ(f.xAxis, f.yAxis, f.zAxis, p, a), a);
     EXPECT_EQ(mathTransLocalVec3DByXYZ(f.xAxis, f.yAxis, f.zAxis, a, b), b);
 
