@@ -161,8 +161,10 @@ void TRANSF_2D::DefScale(float sx, float sy)
 
 void TRANSF_2D::DefScale(const point_2d& c, float sx, float sy)
 {
+    // c may be this object's own origin: read it before the reset.
+    const point_2d centre = c;
     DefScale(sx, sy);
-    origin.Set((1.0f - sx) * c.x, (1.0f - sy) * c.y);
+    origin.Set((1.0f - sx) * centre.x, (1.0f - sy) * centre.y);
 }
 
 void TRANSF_2D::DefShear(float a, float b)
@@ -198,11 +200,13 @@ void TRANSF_2D::DefRotate(float a)
 
 void TRANSF_2D::DefRotate(const point_2d& c, float a)
 {
+    // c may be this object's own origin: read it before the reset.
+    const point_2d centre = c;
     DefRotate(a);
     const float cs = xAxis.x;
     const float sn = xAxis.y;
-    // c minus the image of c under the bare rotation.
-    origin.Set((1.0f - cs) * c.x + sn * c.y, (1.0f - cs) * c.y - sn * c.x);
+    // The centre minus its image under the bare rotation.
+    origin.Set((1.0f - cs) * centre.x + sn * centre.y, (1.0f - cs) * centre.y - sn * centre.x);
 }
 
 void TRANSF_2D::DefMirror(const point_2d& p0, const point_2d& p1)

@@ -104,6 +104,13 @@ TEST(Transf2D, ComposedStepsActAfterTheCurrentOne)
     r.DefRotate(point_2d(2, 1), kPi / 2);
     expectPoint(point_2d(2, 1) * r, 2, 1);
     expectPoint(point_2d(3, 1) * r, 2, 2);
+    // The centre may be the object's own origin: the old value is used.
+    r.DefRotate(r.origin, kPi / 2);
+    expectPoint(point_2d(3, -1) * r, 3, -1);
+    expectPoint(point_2d(4, -1) * r, 3, 0);
+    s.DefScale(s.origin, 2, 2);
+    expectPoint(point_2d(-1, 12) * s, -1, 12);
+    expectPoint(point_2d(0, 12) * s, 1, 12);
     TRANSF_2D m;
     m.DefMirrorXAxis();
     m.MirrorYAxis();
