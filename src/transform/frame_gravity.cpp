@@ -10,9 +10,17 @@ using korvex_frame::convertHomogeneous;
 int mathGetGFrame3Pnt(const double p0[3], const double p1[3], const double p2[3], MathGFrame* g)
 {
     const double minHeight = 1e-20; // the three points are collinear
-    mathCpyPnt(p0, g->p0);
-    mathCpyPnt(p1, g->p1);
-    mathCpyPnt(p2, g->p2);
+    // The vertices are read before g is written, so they may be taken from g
+    // itself in any order.
+    double v0[3];
+    double v1[3];
+    double v2[3];
+    mathCpyPnt(p0, v0);
+    mathCpyPnt(p1, v1);
+    mathCpyPnt(p2, v2);
+    mathCpyPnt(v0, g->p0);
+    mathCpyPnt(v1, g->p1);
+    mathCpyPnt(v2, g->p2);
     double e1[3];
     double e2[3];
     double n[3];

@@ -398,6 +398,16 @@ TEST(GravityFrame, TetrahedronAndBarycentricRoundTrip)
         EXPECT_NEAR(cart[i], pts[i], 1e-12);
     EXPECT_EQ(mathTransGraviStr4D(-1, &g, pts, cart), 1);
 
+    // Rebuilt from its own vertices in another order.
+    MathGFrame turned;
+    ASSERT_EQ(mathGetGFrame3Pnt(q1, q2, q0, &turned), 1);
+    ASSERT_EQ(mathGetGFrame3Pnt(g.p1, g.p2, g.p0, &g), 1);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(g.p0[i], q1[i]);
+        EXPECT_EQ(g.p2[i], q0[i]);
+        EXPECT_EQ(g.p3[i], turned.p3[i]);
+    }
+
     // Collinear points: the base is stored, nothing else; a flat frame gives
     // the first vertex.
     const double c2[3] = {2, 0, 0};
