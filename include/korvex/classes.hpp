@@ -161,7 +161,8 @@ public:
     // dist the distance. A segment shorter than gmGetDistTol() counts as the
     // point a. The perpendicular foot is kept while the parameter lies in
     // (-gmGetParaTol(), 1 + gmGetParaTol()]; beyond that the nearer end point
-    // is taken (b on a tie). Always returns 1.
+    // is taken (b on a tie). The outputs are written last, so foot may be
+    // this point, a or b (projection in place). Always returns 1.
     int GetDistLineSeg(point_2d const& a, point_2d const& b, float& t,
                        point_2d& foot, float& dist) const;
     // As GetDistLineSeg, but on the infinite line through a and b: the
@@ -335,7 +336,8 @@ public:
     // Projection of this point p on the infinite line through a and b: t the
     // line parameter (0 at a, 1 at b), foot the foot point, dist the
     // distance. When the squared length of b - a is below gmGetAbsDistTol()
-    // the line counts as the point a (t = 0). Always returns 1.
+    // the line counts as the point a (t = 0). The outputs are written last,
+    // so foot may be this point, a or b. Always returns 1.
     int GetMinDistance(point_3d const& a, point_3d const& b, float& t,
                        point_3d& foot, float& dist) const;
     // Distance to the line through a with unit direction d; t receives
