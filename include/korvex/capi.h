@@ -985,7 +985,9 @@ KORVEX_API int mathSolLeastSquare32(const double a[3], const double b[3], const 
  * For parallel lines (|d1 x d2| < 1e-11) the parameters are those of the
  * midpoint of P1 and P2 projected on each line, computed as plain dot
  * products: they are right only for unit directions. Returns 1, or 0 when a
- * denominator vanishes (below 1e-100). */
+ * denominator vanishes (below 1e-100): t is untouched when the first one
+ * does, t[0] is already written when only the second one does (possible
+ * with huge, nearly parallel directions). */
 KORVEX_API int mathSolLeastSquareLin(const double P1[3], const double d1[3], const double P2[3],
                                      const double d2[3], double t[2]);
 /* ======================================================================

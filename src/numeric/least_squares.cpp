@@ -78,14 +78,16 @@ int mathSolLeastSquareLin(const double P1[3], const double d1[3], const double P
     const double den1 = dot3(m1, d1);
     if (std::fabs(den1) < denominatorGuard)
         return 0;
-    const double t0 = -dot3(m1, w) / den1;
+    t[0] = -dot3(m1, w) / den1;
 
+    // t0 stays written when the second denominator vanishes: with huge,
+    // nearly parallel directions the normal n is mostly rounding noise and
+    // the two denominators need not agree.
     double m2[3];
     mathVProduct(d1, n, m2);
     const double den2 = dot3(m2, d2);
     if (std::fabs(den2) < denominatorGuard)
         return 0;
-    t[0] = t0;
     t[1] = dot3(m2, w) / den2;
     return 1;
 }

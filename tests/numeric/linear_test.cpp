@@ -282,4 +282,13 @@ TEST(LeastSquares, ScalarPairAndClosestPointsOfLines)
     ASSERT_EQ(mathSolLeastSquareLin(Q1, a, Q2, a, t), 1);
     EXPECT_EQ(t[0], 2.0);
     EXPECT_EQ(t[1], -2.0);
+    // Huge, nearly parallel directions: the normal is rounding noise and
+    // only the second denominator vanishes, after t0 was written.
+    const double h1[3] = {-3.0000000000000001e+157, -2e+157, 2e+157};
+    const double h2[3] = {-2.9999999999999999e-41, -2e-41, 2e-41};
+    const double R1[3] = {1, 2, 3};
+    double th[2] = {9, 9};
+    EXPECT_EQ(mathSolLeastSquareLin(R1, h1, zero, h2, th), 0);
+    EXPECT_NE(th[0], 9.0);
+    EXPECT_EQ(th[1], 9.0);
 }
