@@ -7,8 +7,10 @@
 
 namespace {
 
-// Squared norms at or below this count as zero: a zero column, or a column
-// that depends on the earlier ones.
+// Squared-norm guard of the recursion: a first column needs a squared norm
+// above it to count as non-zero, and a later column whose residual falls
+// below it depends on the earlier ones (a residual of exactly 1e-20 does
+// not).
 const double kSquaredNormGuard = 1e-20;
 
 double dot(int n, const double *a, const double *b)
