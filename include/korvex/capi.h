@@ -162,7 +162,8 @@ KORVEX_API double mathACos(double x);
 KORVEX_API double mathASin(double x);
 
 /* Angle in [0, 2*pi) from its cosine c and sine s (in that order; they need
- * not be normalised). 0 when |c| + |s| < 1e-20. */
+ * not be normalised). 0 when |c| + |s| < 1e-20. A tiny negative angle
+ * rounds up to exactly 2*pi: (1, -1e-30) gives 2*pi. */
 KORVEX_API double mathSolAngleByCS(double c, double s);
 
 /* ---------------------------------------------------------------------
@@ -219,22 +220,26 @@ KORVEX_API double mathGetAngle2DUnit(const double a[2], const double b[2]);
  * vectors give -pi and equal vectors -0.0. The lengths are not checked. */
 KORVEX_API double mathGetAngle2DUnitEx(const double a[2], const double b[2]);
 
-/* Angle of v (double[2]) to the x axis, in [0, 2*pi). */
+/* Angle of v (double[2]) to the x axis, in [0, 2*pi): atan2(y, x), plus
+ * 2*pi when negative (so a tiny negative angle rounds up to 2*pi). */
 KORVEX_API double mathGetAngleX2D(const double v[2]);
 
 /* Unsigned angle at vertex p1 between p0 - p1 and p2 - p1 (double[2] each),
  * in [0, pi]; -1.0 when either leg is shorter than 1e-10. */
 KORVEX_API double mathGetAngle3P2D(const double p0[2], const double p1[2], const double p2[2]);
 
-/* Anticlockwise angle at vertex p1, in [0, 2*pi): the turn that brings the
+/* Anticlockwise angle at vertex p1, in [0, 2*pi]: the turn that brings the
  * ray p1 -> p2 onto the ray p1 -> p0. For p0 = (1, 0), p1 = (0, 0),
- * p2 = (0, 1) it is 3*pi/2.
+ * p2 = (0, 1) it is 3*pi/2. The unsigned angle is 0 for rays within about
+ * 1.4e-6 rad of each other, so a p2 just anticlockwise of the ray p1 -> p0
+ * and more than 1e-10 off its line gives exactly 2*pi, not a value near 0.
  *   p0, p1, p2  double[2]
  * Returns -1.0 when either leg is shorter than 1e-10. */
 KORVEX_API double mathGetACWAngle3P2D(const double p0[2], const double p1[2], const double p2[2]);
 
-/* Anticlockwise angle from b to a (double[2] each), in [0, 2*pi):
- * mathGetACWAngle3P2D(a, origin, b). -1.0 for a vector shorter than 1e-10. */
+/* Anticlockwise angle from b to a (double[2] each), in [0, 2*pi]:
+ * mathGetACWAngle3P2D(a, origin, b), so exactly 2*pi when b lies just
+ * anticlockwise of a. -1.0 for a vector shorter than 1e-10. */
 KORVEX_API double mathGetACWAngle2D(const double a[2], const double b[2]);
 
 /* ---------------------------------------------------------------------

@@ -198,6 +198,12 @@ TEST(Angles, SignedAndAnticlockwise)
     const double p1[2] = {2.0, 1.0};
     const double p2[2] = {2.0, 0.0};
     EXPECT_DOUBLE_EQ(mathGetACWAngle3P2D(p0, p1, p2), kHalfPi);
+    // Rays 1e-7 rad apart: the unsigned angle snaps to 0, so just
+    // anticlockwise gives the full turn and just clockwise gives 0.
+    const double above[2] = {1.0, 1e-7};
+    const double below[2] = {1.0, -1e-7};
+    EXPECT_EQ(mathGetACWAngle2D(x, above), kTwoPi);
+    EXPECT_EQ(mathGetACWAngle2D(x, below), 0.0);
 
     const double ax[3] = {1.0, 0.0, 0.0};
     const double ay[3] = {0.0, 1.0, 0.0};
