@@ -3,35 +3,40 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <initializer_list>
 
 namespace {
 
 const double pi = 3.141592653589793;
 
 // Orthonormal frames in general position.
-MathRFrame derivedFrame(double ox, double oy, double oz, double zx, double zy, double zz, double rx, double ry,
-                        double rz)
+MathRFrame derivedFrame(std::initializer_list<double> o, std::initializer_list<double> z,
+                        std::initializer_list<double> r)
 {
     MathRFrame f;
-    const double o[3] = {ox, oy, oz}, z[3] = {zx, zy, zz}, r[3] = {rx, ry, rz};
-    EXPECT_EQ(mathDerivFrame(o, z, r, &f), 1);
+    EXPECT_EQ(mathDerivFrame(o.begin(), z.begin(), r.begin(), &f), 1);
     return f;
 }
 
 MathRFrame tiltedFrame()
 {
-    return derivedFrame(1.5, -2.0, 0.75, 1.0, 2.0, 2.0, 0.3, -1.0, 0.2);
+    return derivedFrame({1.5, -2.0, 0.75}, {1.0, 2.0, 2.0}, {0.3, -1.0, 0.2});
 }
 
 MathRFrame otherFrame()
 {
-    return derivedFrame(-3.0, 0.5, 4.0, -0.2, 0.1, 1.0, 1.0, 1.0, 0.0);
+    return derivedFrame({-3.0, 0.5, 4.0}, {-0.2, 0.1, 1.0}, {1.0, 1.0, 0.0});
 }
 
-void expectNear3(const double* a, const double* b, double eps)
+void expectNear(const double* a, const double* b, int n, double eps)
 {
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < n; ++i)
         EXPECT_NEAR(a[i], b[i], eps) << "component " << i;
+}
+
+void expectNear(const double* a, std::initializer_list<double> b, double eps)
+{
+    expectNear(a, b.begin(), static_cast<int>(b.size()), eps);
 }
 
 void expectIdentity(const MathRFrame& f, double eps)
@@ -59,10 +64,9 @@ TEST(FrameRecord, IdentityMoveAndScale)
     const MathRFrame before = g;
     const double v[3] = {1, 2, 3};
     mathScaleRFrame(v, 5, &g);
-    const double moved[3] = {before.origin[0] + 1, before.origin[1] + 2, before.origin[2] + 3};
-    expectNear3(g.origin, moved, 0.0);
-    expectNear3(g.xAxis, before.xAxis, 0.0);
-    expectNear3(g.zAxis, before.zAxis, 0.0);
+    expectNear(g.origin, {before.origin[0] + 1, before.origin[1] + 2, before.origin[2] + 3}, 0.0);
+    expectNear(g.xAxis, before.xAxis, 3, 0.0);
+    expectNear(g.zAxis, before.zAxis, 3, 0.0);
     EXPECT_EQ(g.scale, before.scale);
 
     // A derived frame is right-handed with z along the given direction; it
@@ -78,30 +82,25 @@ TEST(FrameConversion, WorldLocalRoundTrips)
 {
     const MathRFrame f = tiltedFrame();
     const double p[3] = {0.25, 7.0, -3.5};
-    double local[3], back[3];
+    double local[3], back[3], q[3] = {p[0], p[1], p[2]};
     mathTransWorldPnt3D(&f, p, local);
     mathTransLocalPnt3D(&f, local, back);
-    expectNear3(back, p, 1e-14);
-    double q[3] = {p[0], p[1], p[2]};
+    expectNear(back, p, 3, 1e-14);
     mathTransWorldPnt3D(&f, q, q);
-    expectNear3(q, local, 0.0);
-
-    double vl[3], vw[3];
-    mathTransWorldVec3D(&f, p, vl);
-    mathTransLocalVec3D(&f, vl, vw);
-    expectNear3(vw, p, 1e-14);
+    expectNear(q, local, 3, 0.0);
+    mathTransWorldVec3D(&f, p, local);
+    mathTransLocalVec3D(&f, local, back);
+    expectNear(back, p, 3, 1e-14);
 
     // A point of the XY plane and back; a planar vector has no local z.
     const double p2[2] = {3.0, -1.25};
     double w2[3], back2[2];
     mathTransLocalPnt2D(&f, p2, w2);
     mathTransWorldPnt3DTo2D(&f, w2, back2);
-    EXPECT_NEAR(back2[0], p2[0], 1e-14);
-    EXPECT_NEAR(back2[1], p2[1], 1e-14);
+    expectNear(back2, p2, 2, 1e-14);
     mathTransLocalVec2D(&f, p2, w2);
-    mathTransWorldVec3D(&f, w2, vl);
-    EXPECT_NEAR(vl[1], p2[1], 1e-14);
-    EXPECT_NEAR(vl[2], 0.0, 1e-14);
+    mathTransWorldVec3D(&f, w2, local);
+    expectNear(local, {p2[0], p2[1], 0.0}, 1e-14);
 }
 
 TEST(FrameConversion, SeparateAxes)
@@ -111,44 +110,38 @@ TEST(FrameConversion, SeparateAxes)
     double a[3], b[3], c[2];
     EXPECT_EQ(mathTransWorldPnt3DByOXYZ(f.origin, f.xAxis, f.yAxis, f.zAxis, p, a), a);
     EXPECT_EQ(mathTransLocalPnt3DByOXYZ(f.origin, f.xAxis, f.yAxis, f.zAxis, a, b), b);
-    expectNear3(b, p, 1e-14);
+    expectNear(b, p, 3, 1e-14);
     EXPECT_EQ(mathTransWorldPnt3DTo2DByOXY(f.origin, f.xAxis, f.yAxis, p, c), c);
     EXPECT_EQ(c[1], a[1]);
     // The output may share its storage with the y axis.
     double yq[3] = {f.yAxis[0], f.yAxis[1], f.yAxis[2]};
     mathTransWorldPnt3DTo2DByOXY(f.origin, f.xAxis, yq, p, yq);
-    EXPECT_EQ(yq[0], c[0]);
-    EXPECT_EQ(yq[1], c[1]);
+    expectNear(yq, c, 2, 0.0);
     EXPECT_EQ(mathTransWorldVec3DByXYZ(f.xAxis, f.yAxis, f.zAxis, p, a), a);
     EXPECT_EQ(mathTransLocalVec3DByXYZ(f.xAxis, f.yAxis, f.zAxis, a, b), b);
 
     // The plane frame: the y axis is x turned anticlockwise.
-    const double o[2] = {1, 1}, x[2] = {0.6, 0.8};
-    const double left[2] = {1 - 0.8, 1 + 0.6};
+    const double o[2] = {1, 1}, x[2] = {0.6, 0.8}, left[2] = {1 - 0.8, 1 + 0.6}, pp[2] = {-4.0, 2.5};
     double l[2], w[2];
     mathTransWorldPnt2DByOX(o, x, left, l);
-    EXPECT_NEAR(l[0], 0.0, 1e-15);
-    EXPECT_NEAR(l[1], 1.0, 1e-15);
-    const double pp[2] = {-4.0, 2.5};
+    expectNear(l, {0.0, 1.0}, 1e-15);
     mathTransWorldPnt2DByOX(o, x, pp, l);
     mathTransLocalPnt2DByOX(o, x, l, w);
-    EXPECT_NEAR(w[0], pp[0], 1e-14);
-    EXPECT_NEAR(w[1], pp[1], 1e-14);
+    expectNear(w, pp, 2, 1e-14);
 }
 
 TEST(FrameConversion, HomogeneousPoints)
 {
     const MathRFrame f = tiltedFrame();
-    double pts[12] = {1, 2, 3, 1, 2, 4, 6, 2, -1, 0.5, 3, -0.5};
+    const double pts[12] = {1, 2, 3, 1, 2, 4, 6, 2, -1, 0.5, 3, -0.5};
     double local[12], world[12];
     ASSERT_EQ(mathTransWorldStr4D(3, &f, pts, local), 1);
     ASSERT_EQ(mathTransLocalStr4D(3, &f, local, world), 1);
-    for (int i = 0; i < 12; ++i)
-        EXPECT_NEAR(world[i], pts[i], 1e-13);
+    expectNear(world, pts, 12, 1e-13);
     EXPECT_EQ(local[11], -0.5);
 
     // A point at infinity stops the conversion after the earlier points.
-    double bad[8] = {1, 2, 3, 1, 1, 1, 1, 1e-11};
+    const double bad[8] = {1, 2, 3, 1, 1, 1, 1, 1e-11};
     double out[8] = {9, 9, 9, 9, 9, 9, 9, 9};
     EXPECT_EQ(mathTransLocalStr4D(2, &f, bad, out), 0);
     EXPECT_NE(out[0], 9.0);
@@ -158,9 +151,7 @@ TEST(FrameConversion, HomogeneousPoints)
 
 TEST(FrameAlgebra, InverseProductAndRelativeFrame)
 {
-    const MathRFrame a = tiltedFrame();
-    const MathRFrame b = otherFrame();
-
+    const MathRFrame a = tiltedFrame(), b = otherFrame();
     MathRFrame rel, inv, prod;
     mathEvalRFrame(&a, &a, &rel);
     expectIdentity(rel, 1e-14);
@@ -198,25 +189,23 @@ TEST(FrameAlgebra, EqualityRotationAndArrays)
     // A turn of 2e-3 about the frame's own z axis tilts x and y by that angle.
     b = a;
     mathRotateRFrame(a.zAxis, a.origin, 2e-3, &b);
-    expectNear3(b.origin, a.origin, 1e-15);
+    expectNear(b.origin, a.origin, 3, 1e-15);
     EXPECT_EQ(mathRFrameEqu(&a, &b, 1e-3), 0);
     EXPECT_EQ(mathRFrameEqu(&a, &b, 3e-3), 1);
 
     // A quarter turn about the world z axis through (1, 0, 0).
     MathRFrame f;
     mathInitRFrame(&f);
-    const double d[3] = {0, 0, 1}, q[3] = {1, 0, 0};
+    const double d[3] = {0, 0, 1}, q[3] = {1, 0, 0}, local[3] = {1, 2, 3};
     mathRotateRFrame(d, q, pi / 2, &f);
-    const double o[3] = {1, -1, 0}, x[3] = {0, 1, 0}, y[3] = {-1, 0, 0};
-    expectNear3(f.origin, o, 1e-15);
-    expectNear3(f.xAxis, x, 1e-15);
-    expectNear3(f.yAxis, y, 1e-15);
+    expectNear(f.origin, {1, -1, 0}, 1e-15);
+    expectNear(f.xAxis, {0, 1, 0}, 1e-15);
+    expectNear(f.yAxis, {-1, 0, 0}, 1e-15);
     EXPECT_EQ(f.zAxis[2], 1.0);
     // Local (1, 2, 3) is origin + x + 2 y + 3 z in that frame.
-    const double local[3] = {1, 2, 3}, world[3] = {-1, 0, 3};
     double w[3];
     mathTransLocalPnt3D(&f, local, w);
-    expectNear3(w, world, 1e-15);
+    expectNear(w, {-1, 0, 3}, 1e-15);
 
     MathRFrame** arr = mathNewRFrameStr(3);
     ASSERT_NE(arr, nullptr);
@@ -239,8 +228,7 @@ TEST(FrameMatrix, RowAndColumnForms)
     EXPECT_EQ(row[12], f.origin[0]);
     EXPECT_EQ(row[3], 0.0);
     mathMatxGetRFrame(&f, row2);
-    for (int i = 0; i < 16; ++i)
-        EXPECT_EQ(row[i], row2[i]);
+    expectNear(row2, row, 16, 0.0);
 
     MathRFrame g;
     mathGetRFrameFromMatrix(col, &g);
@@ -262,7 +250,7 @@ TEST(FrameMatrix, RowAndColumnForms)
     double w1[3], w2[3];
     mathMatxPnt3D(row, p, w1);
     mathTransLocalPnt3D(&f, p, w2);
-    expectNear3(w1, w2, 1e-14);
+    expectNear(w1, w2, 3, 1e-14);
 
     // Products may overwrite an operand.
     double a[16], b[16], c[16], d[16];
@@ -274,73 +262,61 @@ TEST(FrameMatrix, RowAndColumnForms)
     EXPECT_EQ(c[6], a[4] * b[2] + a[5] * b[6] + a[6] * b[10] + a[7] * b[14]);
     mathMatxMult16(a, b, d);
     mathMatxMult4x4(a, b, a);
-    for (int i = 0; i < 16; ++i) {
-        EXPECT_EQ(a[i], c[i]);
-        EXPECT_EQ(d[i], c[i]);
-    }
+    expectNear(a, c, 16, 0.0);
+    expectNear(d, c, 16, 0.0);
 }
 
 TEST(FrameMatrix, PointsVectorsAndMakers)
 {
     const MathRFrame f = tiltedFrame();
-    double m[16];
+    double m[16], a[3], b[3];
     mathMatxWorldToRFrame(&f, m);
     const double p[3] = {4, 5, -6};
-    double a[3], b[3];
-    mathMatxPnt3D(m, p, a);
-    mathTransWorldPnt3D(&f, p, b);
-    expectNear3(a, b, 1e-14);
     mathMatxVec3D(m, p, a);
     mathTransWorldVec3D(&f, p, b);
-    expectNear3(a, b, 1e-14);
+    expectNear(a, b, 3, 1e-14);
+    mathMatxPnt3D(m, p, a);
+    mathTransWorldPnt3D(&f, p, b);
+    expectNear(a, b, 3, 1e-14);
 
     // Homogeneous points: weighted images; non-positive weights are skipped.
-    const double h[4] = {8, 10, -12, 2};
-    double hq[4];
+    const double h[4] = {8, 10, -12, 2}, neg[4] = {-4, -5, 6, -1};
+    double hq[4], keep[4] = {9, 9, 9, 9};
     mathMatxPnt4D(m, h, hq);
-    mathTransWorldPnt3D(&f, p, b);
-    for (int i = 0; i < 3; ++i)
-        EXPECT_NEAR(hq[i], 2 * b[i], 1e-13);
+    expectNear(hq, {2 * b[0], 2 * b[1], 2 * b[2]}, 1e-13);
     EXPECT_EQ(hq[3], 2.0);
-    const double neg[4] = {-4, -5, 6, -1};
-    double keep[4] = {9, 9, 9, 9};
     mathMatxPnt4D(m, neg, keep);
-    EXPECT_EQ(keep[0], 9.0);
-    EXPECT_EQ(keep[3], 9.0);
+    expectNear(keep, {9, 9, 9, 9}, 0.0);
 
     // Translation does not act on vectors.
     const double v[3] = {1, 2, 3};
     mathMatxMove(v, m);
     mathMatxVec3D(m, p, a);
-    expectNear3(a, p, 0.0);
+    expectNear(a, p, 3, 0.0);
 
     const double c[3] = {1, 1, 1}, s[3] = {2, 3, -1};
     mathMatxScale(c, s, m);
     mathMatxPnt3D(m, c, a);
-    expectNear3(a, c, 0.0);
+    expectNear(a, c, 3, 0.0);
     mathMatxPnt3D(m, p, a);
-    const double scaled[3] = {7, 13, 8};
-    expectNear3(a, scaled, 1e-15);
+    expectNear(a, {7, 13, 8}, 1e-15);
 
     // A quarter turn about the vertical line through (1, 1, 0).
-    const double axis[3] = {0, 0, 1}, at[3] = {1, 1, 0};
+    const double axis[3] = {0, 0, 1}, at[3] = {1, 1, 0}, r0[3] = {2, 1, 5};
     mathMatxRotate(axis, at, pi / 2, m);
-    const double r0[3] = {2, 1, 5}, r1[3] = {1, 2, 5};
     mathMatxPnt3D(m, r0, a);
-    expectNear3(a, r1, 1e-15);
+    expectNear(a, {1, 2, 5}, 1e-15);
 
     const double n2[3] = {std::sqrt(0.5), std::sqrt(0.5), 0};
     mathMatxMirror(c, n2, m);
     mathMatxPnt3D(m, p, a);
-    double expect[3];
-    mathMirPnt(c, n2, p, expect);
-    expectNear3(a, expect, 1e-14);
+    mathMirPnt(c, n2, p, b);
+    expectNear(a, b, 3, 1e-14);
 }
 
 TEST(FrameMatrix, FramesThroughMatrices)
 {
-    const MathRFrame a = tiltedFrame();
-    const MathRFrame b = otherFrame();
+    const MathRFrame a = tiltedFrame(), b = otherFrame();
     double m[16];
     EXPECT_EQ(mathMatxRFrameToRFrame(&a, &b, m), 0);
     const double p[3] = {0.5, 1.5, -2.5};
@@ -348,23 +324,22 @@ TEST(FrameMatrix, FramesThroughMatrices)
     mathMatxPnt3D(m, p, viaMatrix);
     mathTransLocalPnt3D(&b, p, world);
     mathTransWorldPnt3D(&a, world, inA);
-    expectNear3(viaMatrix, inA, 1e-13);
+    expectNear(viaMatrix, inA, 3, 1e-13);
 
     // A frame through its own world-to-local matrix is the identity; through
     // a rotation, the rotated frame.
-    MathRFrame out;
+    MathRFrame out, turned = b;
     mathMatxWorldToRFrame(&a, m);
     mathMatxRFrame(m, &a, &out);
     expectIdentity(out, 1e-14);
     const double axis[3] = {0, 0, 1}, at[3] = {0, 0, 0};
     mathMatxRotate(axis, at, 0.7, m);
     mathMatxRFrame(m, &b, &out);
-    MathRFrame turned = b;
     mathRotateRFrame(axis, at, 0.7, &turned);
     EXPECT_EQ(mathRFrameEqu(&out, &turned, 1e-12), 1);
 
     // A matrix that flattens y onto x leaves the z axis as it was.
-    double flat[16] = {1, 0, 0, 0, 1, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+    const double flat[16] = {1, 0, 0, 0, 1, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
     MathRFrame id;
     mathInitRFrame(&id);
     out.zAxis[0] = 42;
@@ -378,35 +353,30 @@ TEST(GravityFrame, TetrahedronAndBarycentricRoundTrip)
     const double p0[3] = {0, 0, 0}, p1[3] = {1, 0, 0}, p2[3] = {0, 1, 0};
     MathGFrame g;
     ASSERT_EQ(mathGetGFrame3Pnt(p0, p1, p2, &g), 1);
-    const double apex[3] = {1.0 / 3.0, 1.0 / 3.0, 1.0};
-    expectNear3(g.p3, apex, 1e-16);
+    expectNear(g.p3, {1.0 / 3.0, 1.0 / 3.0, 1.0}, 1e-16);
     EXPECT_DOUBLE_EQ(g.volume, 1.0 / 6.0);
     double b[3];
     mathTransRectaPnt3D(&g, p0, b);
-    const double first[3] = {1, 0, 0};
-    expectNear3(b, first, 1e-15);
+    expectNear(b, {1, 0, 0}, 1e-15);
 
     // A scaled, tilted base: Cartesian -> barycentric -> Cartesian.
     const double q0[3] = {1, 2, 3}, q1[3] = {4, -1, 2}, q2[3] = {0, 5, -2};
     ASSERT_EQ(mathGetGFrame3Pnt(q0, q1, q2, &g), 1);
     EXPECT_NEAR(mathCalPyramidVolume(g.p0, g.p1, g.p2, g.p3), g.volume, 1e-12);
-    double pts[8] = {7, -3, 0.5, 1, 2, 4, 6, 2};
+    const double pts[8] = {7, -3, 0.5, 1, 2, 4, 6, 2};
     double bary[8], cart[8];
     ASSERT_EQ(mathTransRectaStr4D(2, &g, pts, bary), 1);
     ASSERT_EQ(mathTransGraviStr4D(2, &g, bary, cart), 1);
-    for (int i = 0; i < 8; ++i)
-        EXPECT_NEAR(cart[i], pts[i], 1e-12);
+    expectNear(cart, pts, 8, 1e-12);
     EXPECT_EQ(mathTransGraviStr4D(-1, &g, pts, cart), 1);
 
     // Rebuilt from its own vertices in another order.
     MathGFrame turned;
     ASSERT_EQ(mathGetGFrame3Pnt(q1, q2, q0, &turned), 1);
     ASSERT_EQ(mathGetGFrame3Pnt(g.p1, g.p2, g.p0, &g), 1);
-    for (int i = 0; i < 3; ++i) {
-        EXPECT_EQ(g.p0[i], q1[i]);
-        EXPECT_EQ(g.p2[i], q0[i]);
-        EXPECT_EQ(g.p3[i], turned.p3[i]);
-    }
+    expectNear(g.p0, q1, 3, 0.0);
+    expectNear(g.p2, q0, 3, 0.0);
+    expectNear(g.p3, turned.p3, 3, 0.0);
 
     // Collinear points: the base is stored, nothing else; a flat frame gives
     // the first vertex.
@@ -418,7 +388,7 @@ TEST(GravityFrame, TetrahedronAndBarycentricRoundTrip)
     EXPECT_EQ(h.volume, 42.0);
     h.volume = 0;
     mathTransRectaPnt3D(&h, q0, b);
-    expectNear3(b, first, 0.0);
+    expectNear(b, {1, 0, 0}, 0.0);
 }
 
 } // namespace
