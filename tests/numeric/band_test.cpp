@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <vector>
 
 namespace {
@@ -29,36 +30,42 @@ struct BandSystem {
         }
     }
 
-    // Dense solution of one right side, column c of an n x width array.
-    Vec solve(const Vec &B, int width, int c) const
+    // Compares X (n x width) with the dense solution of B, column by column.
+    void expectSolves(const Vec &B, const double *X, int width) const
     {
-        Vec rhs(n), x(n);
-        for (int i = 0; i < n; ++i)
-            rhs[i] = B[i * width + c];
-        EXPECT_EQ(mathSolLineEqua(n, dense.data(), rhs.data(), x.data()), 1);
-        return x;
+        for (int c = 0; c < width; ++c) {
+            Vec rhs(n), x(n);
+            for (int i = 0; i < n; ++i)
+                rhs[i] = B[i * width + c];
+            ASSERT_EQ(mathSolLineEqua(n, dense.data(), rhs.data(), x.data()), 1);
+            for (int i = 0; i < n; ++i)
+                EXPECT_NEAR(X[i * width + c], x[i], 1e-12) << "row " << i << " comp " << c;
+        }
     }
 };
 
-double rhsValue(int i, int c) { return 1.0 + 0.5 * c - 0.25 * i + 0.01 * i * c; }
+Vec rightSides(int n, int width)
+{
+    Vec B(n * width);
+    for (int i = 0; i < n * width; ++i)
+        B[i] = 1.0 + 0.5 * (i % width) - 0.25 * (i / width) + 0.01 * (i / width) * (i % width);
+    return B;
+}
 
 } // namespace
 
 TEST(BandSolver, IdentityLayoutReturnsRightSide)
 {
     const int n = 6, k = 4;
-    Vec A(n * 4, 0.0), B(n * 4), X(n * 4, -1.0);
+    Vec A(n * 4, 0.0), B = rightSides(n, 4), X(n * 4, -1.0);
     A[0] = 1.0;
     for (int i = 1; i < n; ++i) // band rows, then the end block's diagonal
         A[i * 4 + (i <= n - k ? 1 : i - (n - k))] = 1.0;
-    for (int i = 0; i < n * 4; ++i)
-        B[i] = i * 0.5;
-    const Vec expected = B;
-    ASSERT_EQ(mathSolCurvBandMatx4D(n, k, A.data(), B.data(), X.data()), 1);
-    EXPECT_EQ(X, expected);
+    ASSERT_EQ(mathSolCurvBandMatx4D(n, k, A.data(), Vec(B).data(), X.data()), 1);
+    EXPECT_EQ(X, B);
 }
 
-TEST(BandSolver, CurveSolversMatchDenseSolution)
+TEST(BandSolver, CurveAndSurfaceSolversMatchDenseSolution)
 {
     const int sizes[][2] = {{4, 4}, {5, 4}, {12, 4}, {9, 3}, {7, 2}, {1, 1}};
     for (const auto &size : sizes) {
@@ -66,41 +73,27 @@ TEST(BandSolver, CurveSolversMatchDenseSolution)
             const int n = size[0], k = size[1];
             SCOPED_TRACE(testing::Message() << "n " << n << " k " << k << " width " << width);
             BandSystem s(n, k);
-            Vec B(n * width), X(n * width);
-            for (int i = 0; i < n * width; ++i)
-                B[i] = rhsValue(i / width, i % width);
-            const Vec B0 = B;
+            const Vec B0 = rightSides(n, width);
+            Vec B = B0, X(n * width);
             ASSERT_EQ(width == 3 ? mathSolCurvBandMatx(n, k, s.band.data(), B.data(), X.data())
                                  : mathSolCurvBandMatx4D(n, k, s.band.data(), B.data(), X.data()),
                       1);
-            for (int c = 0; c < width; ++c) {
-                const Vec x = s.solve(B0, width, c);
-                for (int i = 0; i < n; ++i)
-                    EXPECT_NEAR(X[i * width + c], x[i], 1e-12) << "row " << i << " comp " << c;
-            }
+            s.expectSolves(B0, X.data(), width);
         }
     }
-}
 
-TEST(BandSolver, SurfaceSolverSolvesEveryColumn)
-{
-    const int n = 8, k = 4, m = 3, width = 4 * m;
-    BandSystem s(n, k);
-    Vec flatB(n * width), flatX(n * width);
+    // The surface solver takes rows of 4 m columns through row pointers.
+    const int n = 8, m = 3, width = 4 * m;
+    BandSystem s(n, 4);
+    const Vec B0 = rightSides(n, width);
+    Vec flatB = B0, flatX(n * width);
     std::vector<double *> B(n), X(n);
     for (int i = 0; i < n; ++i) {
-        for (int c = 0; c < width; ++c)
-            flatB[i * width + c] = rhsValue(i, c);
         B[i] = &flatB[i * width];
         X[i] = &flatX[i * width];
     }
-    const Vec B0 = flatB;
-    ASSERT_EQ(mathSolSurfBandMatx(n, m, k, s.band.data(), B.data(), X.data()), 1);
-    for (int c = 0; c < width; ++c) {
-        const Vec x = s.solve(B0, width, c);
-        for (int i = 0; i < n; ++i)
-            EXPECT_NEAR(flatX[i * width + c], x[i], 1e-12);
-    }
+    ASSERT_EQ(mathSolSurfBandMatx(n, m, 4, s.band.data(), B.data(), X.data()), 1);
+    s.expectSolves(B0, flatX.data(), width);
 }
 
 TEST(BandSolver, SingularAndRefusedSystemsReturnZero)
@@ -109,8 +102,7 @@ TEST(BandSolver, SingularAndRefusedSystemsReturnZero)
     // end rows).
     BandSystem s(6, 4), t(6, 4);
     s.band[0] = 0.0;
-    for (int j = 0; j < 4; ++j)
-        t.band[5 * 4 + j] = t.band[4 * 4 + j];
+    std::copy(&t.band[4 * 4], &t.band[5 * 4], &t.band[5 * 4]);
     Vec B(6 * 4, 1.0), X(6 * 4);
     EXPECT_EQ(mathSolCurvBandMatx(6, 4, s.band.data(), B.data(), X.data()), 0);
     EXPECT_EQ(mathSolCurvBandMatx4D(6, 4, t.band.data(), B.data(), X.data()), 0);

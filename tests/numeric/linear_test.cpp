@@ -16,11 +16,16 @@ Matrix multiply(const Matrix &A, const Matrix &B, int n, int k, int m)
     return C;
 }
 
+void expectNear(const double *a, const Matrix &b, double tol)
+{
+    for (size_t i = 0; i < b.size(); ++i)
+        EXPECT_NEAR(a[i], b[i], tol) << "at index " << i;
+}
+
 void expectNear(const Matrix &a, const Matrix &b, double tol)
 {
     ASSERT_EQ(a.size(), b.size());
-    for (size_t i = 0; i < a.size(); ++i)
-        EXPECT_NEAR(a[i], b[i], tol) << "at index " << i;
+    expectNear(a.data(), b, tol);
 }
 
 // The four Moore-Penrose conditions of X (cols x rows) for A.
@@ -43,11 +48,10 @@ TEST(MatrixKernel, ProductTransposeCopyAndEmptyDimensions)
     const Matrix A = {1, 2, 3, 4, 5, 6}; // 2 x 3
     const Matrix B = {1, 0, 0, 1, 1, 1}; // 3 x 2
     expectNear(multiply(A, B, 2, 3, 2), {4, 5, 10, 11}, 0.0);
-    Matrix At(6);
+    Matrix At(6), dst(6);
     mathMatxTrans(2, 3, A.data(), At.data());
     expectNear(At, {1, 4, 2, 5, 3, 6}, 0.0);
-    Matrix dst(6); // the copy takes the source first
-    mathMatxCopy(A.data(), dst.data(), 2, 3);
+    mathMatxCopy(A.data(), dst.data(), 2, 3); // the copy takes the source first
     expectNear(dst, A, 0.0);
 
     // Empty dimensions write nothing, also when both are negative.
@@ -61,39 +65,34 @@ TEST(MatrixKernel, ProductTransposeCopyAndEmptyDimensions)
     EXPECT_EQ(mathMatxInvs(-1, 2, A.data(), untouched.data()), 1);
     EXPECT_EQ(mathMatxInvs(2, -1, A.data(), untouched.data()), 1);
     EXPECT_EQ(mathSolLineEqua(-2, A.data(), B.data(), untouched.data()), 1);
-    expectNear(untouched, Matrix(4, 7.0), 0.0);
+    EXPECT_EQ(untouched, Matrix(4, 7.0));
 }
 
 TEST(PseudoInverse, ZeroAndRankDeficientMatrices)
 {
-    Matrix X(6, 9.0);
+    Matrix X(6, 9.0), Xw(12);
     EXPECT_EQ(mathMatxInvs(2, 3, Matrix(6, 0.0).data(), X.data()), 1);
-    expectNear(X, Matrix(6, 0.0), 0.0);
+    EXPECT_EQ(X, Matrix(6, 0.0));
 
     const Matrix twin = {1, 1, 2, 2, 3, 3}; // 3 x 2, equal columns
     ASSERT_EQ(mathMatxInvs(3, 2, twin.data(), X.data()), 1);
     expectPseudoInverse(twin, X, 3, 2);
-
     // Rank 2 in 3 x 4: a zero column first, a dependent one last.
-    const Matrix wide = {0, 1, 0, 1,
-                         0, 0, 1, 1,
-                         0, 1, 1, 2};
-    Matrix Xw(12);
+    const Matrix wide = {0, 1, 0, 1, 0, 0, 1, 1, 0, 1, 1, 2};
     ASSERT_EQ(mathMatxInvs(3, 4, wide.data(), Xw.data()), 1);
     expectPseudoInverse(wide, Xw, 3, 4);
 }
 
 TEST(InverseByRowOperations, PivotsOnFirstUsableRow)
 {
-    Matrix A = {0, 2, 1,
-                1, 1, 0,
-                2, 0, 3};
+    Matrix A = {0, 2, 1, 1, 1, 0, 2, 0, 3};
     const Matrix original = A;
     Matrix inv(9), I(9);
     ASSERT_EQ(mathMatxInvsByET(3, A.data(), inv.data()), 1);
     mathUnitMatx(3, I.data());
     expectNear(multiply(original, inv, 3, 3, 3), I, 1e-14);
-    EXPECT_EQ(A[3], 0.0); // A ends in echelon form
+    // A ends in echelon form.
+    EXPECT_EQ(A[3], 0.0);
     EXPECT_EQ(A[6], 0.0);
     EXPECT_EQ(A[7], 0.0);
 
@@ -103,11 +102,11 @@ TEST(InverseByRowOperations, PivotsOnFirstUsableRow)
 
 TEST(GaussEliminate, CompletePivotingAndAbsoluteSingularityTest)
 {
-    Matrix swap = {0, 1, 1, 0};
+    Matrix swap = {0, 1, 1, 0}, singular = {1, 2, 2, 4};
     double b[2] = {3, 5};
     ASSERT_EQ(mathGaussEliminate(swap.data(), b, 2), 1);
-    EXPECT_EQ(b[0], 5.0);
-    EXPECT_EQ(b[1], 3.0);
+    expectNear(b, {5, 3}, 0.0);
+    EXPECT_EQ(mathGaussEliminate(singular.data(), b, 2), 0);
 
     // Regular, but every element is below the absolute pivot threshold; a
     // scale of 1e-9 is still well above it.
@@ -119,17 +118,11 @@ TEST(GaussEliminate, CompletePivotingAndAbsoluteSingularityTest)
     EXPECT_NEAR(bs[0], 1.0, 1e-12);
 
     // Column exchanges are undone on the solution.
-    const Matrix A = {1, 2, 3, 4,
-                      2, 1, 9, 1,
-                      0, 5, 1, 2,
-                      7, 1, 1, 1};
+    const Matrix A = {1, 2, 3, 4, 2, 1, 9, 1, 0, 5, 1, 2, 7, 1, 1, 1};
     const Matrix x = {1, -2, 0.5, 3};
     Matrix rhs = multiply(A, x, 4, 4, 1), work = A;
     ASSERT_EQ(mathGaussEliminate(work.data(), rhs.data(), 4), 1);
     expectNear(rhs, x, 1e-13);
-
-    Matrix singular = {1, 2, 2, 4};
-    EXPECT_EQ(mathGaussEliminate(singular.data(), b, 2), 0);
 }
 
 TEST(SolLineEqua, SingularSystemsFallBackToMinimumNorm)
@@ -141,8 +134,7 @@ TEST(SolLineEqua, SingularSystemsFallBackToMinimumNorm)
         const Matrix b0 = b;
         double x[2] = {0, 0};
         ASSERT_EQ(mathSolLineEqua(2, A.data(), b.data(), x), 1);
-        EXPECT_NEAR(x[0], 1.0, 1e-14);
-        EXPECT_NEAR(x[1], 1.0, 1e-14);
+        expectNear(x, {1, 1}, 1e-14);
         EXPECT_EQ(b, b0);
     }
     EXPECT_EQ(A, Matrix(4, 1.0));
@@ -153,65 +145,52 @@ TEST(SolLineEqua, SingularSystemsFallBackToMinimumNorm)
     const double bt[2] = {1e-17, 1e-17};
     double x[2] = {5, 5};
     ASSERT_EQ(mathSolLineEqua(2, tiny.data(), bt, x), 1);
-    EXPECT_EQ(x[0], 0.0);
-    EXPECT_EQ(x[1], 0.0);
+    expectNear(x, {0, 0}, 0.0);
 }
 
 TEST(SmallSystems, CramerRulesAreStrictAndLeaveOutputsOnFailure)
 {
-    double x = 7, y = 8, z = 9;
-    ASSERT_EQ(mathSolLineEqua22(2, 1, 1, 3, 3, 5, 1e-12, &x, &y), 1);
-    EXPECT_NEAR(x, 0.8, 1e-15);
-    EXPECT_NEAR(y, 1.4, 1e-15);
-    EXPECT_EQ(mathSolLineEqua22(1, 2, 2, 4, 1, 1, 1e-12, &x, &y), 0);
-    EXPECT_NEAR(x, 0.8, 1e-15);
+    double v[3] = {7, 8, 9};
+    ASSERT_EQ(mathSolLineEqua22(2, 1, 1, 3, 3, 5, 1e-12, &v[0], &v[1]), 1);
+    expectNear(v, {0.8, 1.4}, 1e-15);
+    EXPECT_EQ(mathSolLineEqua22(1, 2, 2, 4, 1, 1, 1e-12, &v[0], &v[1]), 0);
+    expectNear(v, {0.8, 1.4}, 1e-15);
 
-    // |det| = 6 is not below a tolerance of 6.
-    ASSERT_EQ(mathSolLineEqua33(2, 0, 1, 1, 3, 2, 1, 1, 2, 3, 6, 4, 6.0, &x, &y, &z), 1);
-    EXPECT_NEAR(x, 1.0, 1e-15);
-    EXPECT_NEAR(y, 1.0, 1e-15);
-    EXPECT_NEAR(z, 1.0, 1e-15);
-    x = y = z = 4;
-    EXPECT_EQ(mathSolLineEqua33(2, 0, 1, 1, 3, 2, 1, 1, 2, 3, 6, 4, 6.5, &x, &y, &z), 0);
-    EXPECT_EQ(x, 4.0);
-    EXPECT_EQ(z, 4.0);
+    // |det| = 6 is not below a tolerance of 6, but below 6.5.
+    ASSERT_EQ(mathSolLineEqua33(2, 0, 1, 1, 3, 2, 1, 1, 2, 3, 6, 4, 6.0, &v[0], &v[1], &v[2]), 1);
+    expectNear(v, {1, 1, 1}, 1e-15);
+    v[0] = v[1] = v[2] = 4;
+    EXPECT_EQ(mathSolLineEqua33(2, 0, 1, 1, 3, 2, 1, 1, 2, 3, 6, 4, 6.5, &v[0], &v[1], &v[2]), 0);
+    expectNear(v, {4, 4, 4}, 0.0);
 }
 
 TEST(SmallSystems, HomogeneousTwoByTwo)
 {
-    double v[2] = {5, 5};
-    EXPECT_EQ(mathSolHomoEqua22(0, 0, 0, 0, 1e-9, v), 100);
-    EXPECT_EQ(v[0], 0.0);
-    EXPECT_EQ(v[1], 0.0);
-
-    // Dependent rows: the unit solution is perpendicular to the longer one.
-    ASSERT_EQ(mathSolHomoEqua22(1, 2, 2, 4, 1e-9, v), 1);
-    EXPECT_NEAR(v[0], -4 / std::sqrt(20.0), 1e-15);
-    EXPECT_NEAR(v[1], 2 / std::sqrt(20.0), 1e-15);
-
-    // Independent rows: the candidate is kept; on a tie of lengths it comes
-    // from the second row.
-    EXPECT_EQ(mathSolHomoEqua22(1, 0, 0, 1, 1e-9, v), 0);
-    EXPECT_EQ(v[0], -1.0);
-    EXPECT_EQ(v[1], 0.0);
-    EXPECT_EQ(mathSolHomoEqua22(2, 0, 0, 1, 1e-9, v), 0);
-    EXPECT_EQ(v[0], 0.0);
-    EXPECT_EQ(v[1], 1.0);
+    // {a, b, c, d, result, v}. Dependent rows give the unit solution
+    // perpendicular to the longer row; independent rows keep the candidate,
+    // taken from the second row on a tie of lengths.
+    const double cases[][7] = {{0, 0, 0, 0, 100, 0, 0},
+                               {1, 2, 2, 4, 1, -4 / std::sqrt(20.0), 2 / std::sqrt(20.0)},
+                               {1, 0, 0, 1, 0, -1, 0},
+                               {2, 0, 0, 1, 0, 0, 1}};
+    for (const auto &k : cases) {
+        double v[2] = {5, 5};
+        EXPECT_EQ(mathSolHomoEqua22(k[0], k[1], k[2], k[3], 1e-9, v), int(k[4])) << "a " << k[0] << " d " << k[3];
+        expectNear(v, {k[5], k[6]}, 1e-15);
+    }
 }
 
 TEST(TrigonometricEquations, RootsCountsAndDegenerateCases)
 {
-    const double twoPi = 6.283185307179586;
+    const double twoPi = 6.283185307179586, halfPi = 1.5707963267948966;
     double t[2];
     // The root 0 seen at both ends of the period.
     ASSERT_EQ(mathSolExpoEqua(1, 0, 1, 1e-6, t), 1);
-    EXPECT_EQ(t[0], 0.0);
-    EXPECT_EQ(t[1], twoPi);
+    expectNear(t, {0, twoPi}, 0.0);
     EXPECT_EQ(mathSolExpoEqua(0, 0, 0, 1e-6, t), 100);
     EXPECT_EQ(mathSolExpoEqua(0, 0, 1, 1e-6, t), 0);
     EXPECT_EQ(mathSolExpoEqua(1, 0, 2, 1e-6, t), 0);
-    EXPECT_EQ(t[0], 0.0);
-    EXPECT_EQ(t[1], 1.5707963267948966);
+    expectNear(t, {0, halfPi}, 0.0);
 
     ASSERT_EQ(mathSolExpoEqua(1, 1, 1, 1e-9, t), 2);
     EXPECT_NE(t[0], t[1]);
@@ -221,32 +200,27 @@ TEST(TrigonometricEquations, RootsCountsAndDegenerateCases)
     }
     // Tangency: the right side equals the amplitude.
     ASSERT_EQ(mathSolExpoEqua(0, 2, 2, 1e-9, t), 1);
-    EXPECT_NEAR(t[0], 1.5707963267948966, 1e-12);
+    EXPECT_NEAR(t[0], halfPi, 1e-12);
     EXPECT_EQ(t[0], t[1]);
 
     // cos^2 t - sin^2 t = cos 2t = 0 on [0, pi]; cos^2 + sin^2 has no root.
     ASSERT_EQ(mathSolHomoEqua(1, 0, -1, 1e-9, t), 2);
-    EXPECT_NEAR(std::fmin(t[0], t[1]), 0.7853981633974483, 1e-12);
-    EXPECT_NEAR(std::fmax(t[0], t[1]), 2.356194490192345, 1e-12);
+    expectNear(Matrix{std::fmin(t[0], t[1]), std::fmax(t[0], t[1])}, {0.7853981633974483, 2.356194490192345}, 1e-12);
     EXPECT_EQ(mathSolHomoEqua(0, 0, 0, 1e-9, t), 100);
     EXPECT_EQ(mathSolHomoEqua(1, 0, 1, 1e-9, t), 0);
 }
 
 TEST(DecomposeVector, RegularAndCoplanarDirections)
 {
-    const double v[3] = {1, 2, 3};
-    const double e1[3] = {1, 1, 0}, e2[3] = {0, 1, 1}, e3[3] = {1, 0, 1};
-    double c1, c2, c3;
-    ASSERT_EQ(mathDecVec(v, e1, e2, e3, &c1, &c2, &c3), 1);
+    const double v[3] = {1, 2, 3}, e1[3] = {1, 1, 0}, e2[3] = {0, 1, 1}, e3[3] = {1, 0, 1};
+    double c[3];
+    ASSERT_EQ(mathDecVec(v, e1, e2, e3, &c[0], &c[1], &c[2]), 1);
     for (int i = 0; i < 3; ++i)
-        EXPECT_NEAR(c1 * e1[i] + c2 * e2[i] + c3 * e3[i], v[i], 1e-14);
-
+        EXPECT_NEAR(c[0] * e1[i] + c[1] * e2[i] + c[2] * e3[i], v[i], 1e-14);
     // Two directions along x: the x part is split evenly (minimum norm).
     const double w[3] = {2, 3, 0}, x[3] = {1, 0, 0}, y[3] = {0, 1, 0};
-    ASSERT_EQ(mathDecVec(w, x, x, y, &c1, &c2, &c3), 1);
-    EXPECT_NEAR(c1, 1.0, 1e-14);
-    EXPECT_NEAR(c2, 1.0, 1e-14);
-    EXPECT_NEAR(c3, 3.0, 1e-14);
+    ASSERT_EQ(mathDecVec(w, x, x, y, &c[0], &c[1], &c[2]), 1);
+    expectNear(c, {1, 1, 3}, 1e-14);
 }
 
 TEST(LeastSquares, ScalarPairAndClosestPointsOfLines)
@@ -261,27 +235,23 @@ TEST(LeastSquares, ScalarPairAndClosestPointsOfLines)
     double xy[2];
     const double e2[3] = {0, 1, 0}, c[3] = {2, 5, 7}, twoA[3] = {2, 0, 0};
     ASSERT_EQ(mathSolLeastSquare32(a, e2, c, xy), 1);
-    EXPECT_NEAR(xy[0], 2.0, 1e-15);
-    EXPECT_NEAR(xy[1], 5.0, 1e-15);
+    expectNear(xy, {2, 5}, 1e-15);
     // Parallel a and 2a: the fit is shared so that x0 = x1 |a| / |2a|.
     ASSERT_EQ(mathSolLeastSquare32(a, twoA, c, xy), 1);
     EXPECT_NEAR(xy[0] + 2 * xy[1], 2.0, 1e-15);
     EXPECT_NEAR(xy[0], 0.5 * xy[1], 1e-15);
     ASSERT_EQ(mathSolLeastSquare32(a, zero, c, xy), 1);
-    EXPECT_EQ(xy[0], 0.0);
-    EXPECT_EQ(xy[1], 0.0);
+    expectNear(xy, {0, 0}, 0.0);
 
     // Skew lines: the x axis and a line along y through (2, 0, 3).
     const double P1[3] = {0, 0, 0}, P2[3] = {2, -1, 3}, d2[3] = {0, 2, 0};
     double t[2];
     ASSERT_EQ(mathSolLeastSquareLin(P1, a, P2, d2, t), 1);
-    EXPECT_NEAR(t[0], 2.0, 1e-14);
-    EXPECT_NEAR(t[1], 0.5, 1e-14);
+    expectNear(t, {2, 0.5}, 1e-14);
     // Parallel unit lines: the projections of the midpoint of P1 and P2.
     const double Q1[3] = {1, 0, 0}, Q2[3] = {5, 2, 0};
     ASSERT_EQ(mathSolLeastSquareLin(Q1, a, Q2, a, t), 1);
-    EXPECT_EQ(t[0], 2.0);
-    EXPECT_EQ(t[1], -2.0);
+    expectNear(t, {2, -2}, 0.0);
     // Huge, nearly parallel directions: the normal is rounding noise and
     // only the second denominator vanishes, after t0 was written.
     const double h1[3] = {-3.0000000000000001e+157, -2e+157, 2e+157};

@@ -10,16 +10,13 @@
 namespace {
 
 // Coefficients of prod (x - r), highest degree first.
-std::vector<double> fromRoots(const std::vector<double>& roots)
+std::vector<double> fromRoots(const std::vector<double> &roots)
 {
     std::vector<double> c{1.0};
     for (double r : roots) {
-        std::vector<double> next(c.size() + 1, 0.0);
-        for (size_t i = 0; i < c.size(); ++i) {
-            next[i] += c[i];
-            next[i + 1] -= r * c[i];
-        }
-        c = next;
+        c.push_back(0.0);
+        for (size_t i = c.size() - 1; i > 0; --i)
+            c[i] -= r * c[i - 1];
     }
     return c;
 }
@@ -33,25 +30,21 @@ void expectRoots(std::vector<double> got, std::vector<double> want, double relTo
         EXPECT_NEAR(got[i], want[i], relTol * std::max(1.0, std::fabs(want[i]))) << "root " << i;
 }
 
-void expectValues(const double* got, std::initializer_list<double> want, double tol)
+void expectValues(const double *got, std::initializer_list<double> want, double tol)
 {
-    int i = 0;
-    for (double w : want) {
-        EXPECT_NEAR(got[i], w, tol) << "entry " << i;
-        ++i;
-    }
+    for (size_t i = 0; i < want.size(); ++i)
+        EXPECT_NEAR(got[i], want.begin()[i], tol) << "entry " << i;
 }
 
-std::vector<double> quartic(const std::vector<double>& roots, double tol = 1e-12)
+std::vector<double> quartic(const std::vector<double> &roots)
 {
-    const std::vector<double> c = fromRoots(roots);
     double x[4];
-    const int k = mathSolQuarEqua(c.data(), tol, x);
+    const int k = mathSolQuarEqua(fromRoots(roots).data(), 1e-12, x);
     return std::vector<double>(x, x + (k <= 4 ? k : 0));
 }
 
 // Roots through the companion matrix, real parts only (all roots real).
-std::vector<double> companion(const std::vector<double>& roots)
+std::vector<double> companion(const std::vector<double> &roots)
 {
     std::vector<double> c = fromRoots(roots);
     std::reverse(c.begin(), c.end());
@@ -66,27 +59,22 @@ std::vector<double> companion(const std::vector<double>& roots)
 
 TEST(PolyQuartic, FactorPairsAndDegenerateForms)
 {
+    // Each quadratic factor in turn, larger magnitude first.
     const double c1[5] = {1, 0, -5, 0, 4};
     double x[4];
     ASSERT_EQ(mathSolQuarEqua(c1, 1e-9, x), 4);
-    // Each quadratic factor in turn, larger magnitude first.
     expectValues(x, {-2, -1, 2, 1}, 1e-14);
-
     // (x^2 + 1)(x - 1)(x - 3): only the real factor contributes.
     const double c2[5] = {1, -4, 4, -4, 3};
     ASSERT_EQ(mathSolQuarEqua(c2, 1e-9, x), 2);
     expectRoots({x[0], x[1]}, {1, 3}, 1e-12);
-
-    // A double root counts once.
-    expectRoots(quartic({1, 1, 2, 3}), {1, 2, 3}, 1e-7);
+    expectRoots(quartic({1, 1, 2, 3}), {1, 2, 3}, 1e-7); // a double root counts once
 
     // x^4 + 5x^2 + 4: the resolvent's largest root gives R = 0, and the
     // method gives up (no real roots anyway).
     const double flatSplit[5] = {1, 0, 5, 0, 4};
     EXPECT_EQ(mathSolQuarEqua(flatSplit, 1e-9, x), 0);
-
-    // A triple root makes the resolvent a pure cube with not-a-number roots:
-    // no usable split, nothing found.
+    // A triple root makes the resolvent a pure cube with NaN roots: no split.
     EXPECT_EQ(mathSolQuarEqua(fromRoots({1, 1, 1, -3}).data(), 1e-9, x), 0);
     EXPECT_EQ(mathSolQuarEqua(fromRoots({2, 2, 2, 2}).data(), 1e-9, x), 0);
 
@@ -98,9 +86,8 @@ TEST(PolyQuartic, FactorPairsAndDegenerateForms)
     for (int i = 0; i < 4; ++i)
         EXPECT_NEAR(std::fabs(x[i]), 0.7071067811865476, 1e-7);
 
-    const double cubic[5] = {0, 1, -6, 11, -6};
+    const double cubic[5] = {0, 1, -6, 11, -6}, zero[5] = {0, 0, 0, 0, 0};
     EXPECT_EQ(mathSolQuarEqua(cubic, 1e-9, x), 3);
-    const double zero[5] = {0, 0, 0, 0, 0};
     EXPECT_EQ(mathSolQuarEqua(zero, 1e-9, x), 100);
 }
 
@@ -129,51 +116,44 @@ TEST(PolyQuartic, AccuracyOnKnownRoots)
 
 TEST(PolyComplexFamily, CubicOrdersAndQuirks)
 {
-    double wr[3], wi[3];
-    int n = 0;
-    mathSlvequ3(1, -6, 11, -6, wr, wi, &n);
-    ASSERT_EQ(n, 3);
-    expectValues(wr, {3, 2, 1}, 1e-12);
-    expectValues(wi, {0, 0, 0}, 0.0);
-
-    // One real root first, then the conjugate pair.
-    mathSlvequ3(2, 0, 0, -2, wr, wi, &n);
-    ASSERT_EQ(n, 3);
-    expectValues(wr, {1, -0.5, -0.5}, 1e-14);
-    expectValues(wi, {0, 0.8660254037844386, -0.8660254037844386}, 1e-14);
-
-    // (x + 1)^3 + 1e-3: the depressed form has no linear term and the real
-    // root comes back without its shift of -1; the pair is right.
-    mathSlvequ3(1, 3, 3, 1 + 1e-3, wr, wi, &n);
-    ASSERT_EQ(n, 3);
-    expectValues(wr, {-0.1, -0.95, -0.95}, 1e-12);
-    EXPECT_NEAR(wi[1], -0.1 * 0.8660254037844386, 1e-12);
-    mathSlvequ3(1, 3, 3, 1, wr, wi, &n); // triple root
-    expectValues(wr, {-1, -1, -1}, 0.0);
-
-    // Degenerate leading terms: the linear step solves c x = d, unflipped.
-    mathSlvequ3(0, 0, 2, 4, wr, wi, &n);
-    ASSERT_EQ(n, 1);
-    EXPECT_EQ(wr[0], 2.0);
+    // {a, b, c, d, count, wr[0..2], wi[0..2]}. The real root precedes a pair.
+    // (x + 1)^3 + 1e-3 has no linear term when depressed, and its real root
+    // comes back without the shift of -1. With a = b = 0, c x = d unflipped.
+    const double s = 0.8660254037844386;
+    const double cases[][11] = {{1, -6, 11, -6, 3, 3, 2, 1, 0, 0, 0},
+                                {2, 0, 0, -2, 3, 1, -0.5, -0.5, 0, s, -s},
+                                {1, 3, 3, 1 + 1e-3, 3, -0.1, -0.95, -0.95, 0, -0.1 * s, 0.1 * s},
+                                {1, 3, 3, 1, 3, -1, -1, -1, 0, 0, 0},
+                                {0, 0, 2, 4, 1, 2}};
+    for (const auto &k : cases) {
+        double wr[3], wi[3];
+        int n = 0;
+        mathSlvequ3(k[0], k[1], k[2], k[3], wr, wi, &n);
+        ASSERT_EQ(n, int(k[4])) << "d " << k[3];
+        for (int i = 0; i < n; ++i) {
+            EXPECT_NEAR(wr[i], k[5 + i], 1e-12) << "d " << k[3] << " root " << i;
+            EXPECT_NEAR(wi[i], k[8 + i], 1e-12) << "d " << k[3] << " root " << i;
+        }
+    }
 
     double roots[3];
+    int n = 0;
     mathSlvequR3(2, 0, 0, -2, roots, &n);
     ASSERT_EQ(n, 1);
     EXPECT_NEAR(roots[0], 1.0, 1e-14);
     mathSlvequR3(0, 1, -3, 2, roots, &n); // degenerate: the quadratic's real roots
-    ASSERT_EQ(n, 2);
+    EXPECT_EQ(n, 2);
 }
 
 TEST(PolyComplexFamily, QuarticPairsAndRealFilter)
 {
-    double wr[4], wi[4];
+    double wr[4], wi[4], fr[4];
     int n = 0;
-    const double r = 0.7071067811865476;
-    mathSlvequ4(1, 0, 0, 0, 1, wr, wi, &n);
+    mathSlvequ4(1, 0, 0, 0, 1, wr, wi, &n); // x^4 + 1: two conjugate pairs
     ASSERT_EQ(n, 4);
     for (int i = 0; i < 4; ++i) {
-        EXPECT_NEAR(std::fabs(wr[i]), r, 1e-14);
-        EXPECT_NEAR(std::fabs(wi[i]), r, 1e-14);
+        EXPECT_NEAR(std::fabs(wr[i]), 0.7071067811865476, 1e-14);
+        EXPECT_NEAR(std::fabs(wi[i]), 0.7071067811865476, 1e-14);
     }
     EXPECT_EQ(wi[1], -wi[0]);
     EXPECT_EQ(wi[3], -wi[2]);
@@ -187,7 +167,6 @@ TEST(PolyComplexFamily, QuarticPairsAndRealFilter)
     }
 
     // (x^2 + 1)(x^2 - 4): one real pair.
-    double fr[4];
     mathSlvequR4(1, 0, -3, 0, -4, fr, &n);
     ASSERT_EQ(n, 2);
     expectRoots({fr[0], fr[1]}, {-2, 2}, 1e-14);
@@ -238,9 +217,7 @@ TEST(PolyCompanion, HessenbergEigenvalues)
     expectValues(wi, {-2, 2}, 0.0);
 
     // A full Hessenberg matrix needs sweeps: none allowed fails.
-    double h[9] = {4, 1, 2, 1, 3, 1, 0, 1, 2};
-    double g[9];
-    std::copy(h, h + 9, g);
+    double h[9] = {4, 1, 2, 1, 3, 1, 0, 1, 2}, g[9] = {4, 1, 2, 1, 3, 1, 0, 1, 2};
     EXPECT_EQ(mathHQR(h, 3, wr, wi, 1e-15, 0), 0);
     ASSERT_EQ(mathHQR(g, 3, wr, wi, 1e-15, 30), 1);
     // Trace and determinant of the original matrix are preserved.
