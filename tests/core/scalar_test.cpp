@@ -4,40 +4,30 @@
 
 #include <cmath>
 
-namespace {
-
-const double kPi = 3.141592653589793;
-const double kHalfPi = 1.5707963267948966;
-const double kTwoPi = 6.283185307179586;
-
-} // namespace
+#include "core/checks.hpp"
 
 TEST(Tolerances, DefaultsAndUncheckedSetters)
 {
-    EXPECT_EQ(gmGetDistTol(), 0.002);
-    EXPECT_EQ(gmGetParaTol(), 0.0001);
-    EXPECT_EQ(gmGetAbsDistTol(), 1e-6);
-    EXPECT_EQ(gmGetAbsParaTol(), 1e-6);
-    EXPECT_EQ(gmGetAbsZero(), 1e-10);
-
-    // Zero and negative values are stored as given, and each setter only
-    // touches its own tolerance.
-    gmSetDistTol(-1.0);
-    gmSetParaTol(0.0);
-    gmSetAbsDistTol(3.0);
-    gmSetAbsParaTol(4.0);
-    gmSetAbsZero(-5.0);
-    EXPECT_EQ(gmGetDistTol(), -1.0);
-    EXPECT_EQ(gmGetParaTol(), 0.0);
-    EXPECT_EQ(gmGetAbsDistTol(), 3.0);
-    EXPECT_EQ(gmGetAbsParaTol(), 4.0);
-    EXPECT_EQ(gmGetAbsZero(), -5.0);
-
-    gmSetDistTol(0.002);
-    gmSetParaTol(0.0001);
-    gmSetAbsDistTol(1e-6);
-    gmSetAbsParaTol(1e-6);
-    gmSetAbsZero(1e-10);
+    struct Tolerance {
+        double (*get)(void);
+        void (*set)(double);
+        double initial, odd;
+    };
+    // Zero and negative values are stored as given; distinct odd values show
+    // that each setter only touches its own tolerance.
+    const Tolerance tols[] = {{gmGetDistTol, gmSetDistTol, 0.002, -1.0},
+                              {gmGetParaTol, gmSetParaTol, 0.0001, 0.0},
+                              {gmGetAbsDistTol, gmSetAbsDistTol, 1e-6, 3.0},
+                              {gmGetAbsParaTol, gmSetAbsParaTol, 1e-6, 4.0},
+                              {gmGetAbsZero, gmSetAbsZero, 1e-10, -5.0}};
+    for (const Tolerance &t : tols) {
+        EXPECT_EQ(t.get(), t.initial);
+        t.set(t.odd);
+    }
+    for (const Tolerance &t : tols) {
+        EXPECT_EQ(t.get(), t.odd);
+        t.set(t.initial);
+    }
 }
 
 TEST(Packing, HalvesAreKeptAndReplaced)
@@ -87,13 +77,10 @@ TEST(Swaps, ExchangeExactlyTheGivenCount)
     double b[3] = {4.0, 5.0, 6.0};
     mathSwapDblN(a, b, 0);
     mathSwapDblN(a, b, -2);
-    EXPECT_EQ(a[0], 1.0);
-    EXPECT_EQ(b[0], 4.0);
+    expectNear(a, {1.0, 2.0, 3.0}, 0.0);
     mathSwapPnt2D(a, b);
-    EXPECT_EQ(a[0], 4.0);
-    EXPECT_EQ(a[1], 5.0);
-    EXPECT_EQ(a[2], 3.0);
-    EXPECT_EQ(b[2], 6.0);
+    expectNear(a, {4.0, 5.0, 3.0}, 0.0);
+    expectNear(b, {1.0, 2.0, 6.0}, 0.0);
 }
 
 TEST(GuardedTrig, EndValuesNearPlusMinusOne)
