@@ -78,7 +78,7 @@ TEST(FrameRecord, IdentityMoveAndScale)
     EXPECT_EQ(mathDerivFrame(o, tiny, v, &g), 0);
 }
 
-TEST(FrameConversion, WorldLocalRoundTrips)
+TEST(FrameConversion, RoundTripsFromFramesAxesAndRuns)
 {
     const MathRFrame f = tiltedFrame();
     const double p[3] = {0.25, 7.0, -3.5};
@@ -101,16 +101,12 @@ TEST(FrameConversion, WorldLocalRoundTrips)
     mathTransLocalVec2D(&f, p2, w2);
     mathTransWorldVec3D(&f, w2, local);
     expectNear(local, {p2[0], p2[1], 0.0}, 1e-14);
-}
 
-TEST(FrameConversion, SeparateAxes)
-{
-    const MathRFrame f = tiltedFrame();
-    const double p[3] = {-1.0, 2.5, 9.0};
-    double a[3], b[3], c[2];
+    // The same conversions from separate axes; each returns its output.
+    double a[3], c[2];
     EXPECT_EQ(mathTransWorldPnt3DByOXYZ(f.origin, f.xAxis, f.yAxis, f.zAxis, p, a), a);
-    EXPECT_EQ(mathTransLocalPnt3DByOXYZ(f.origin, f.xAxis, f.yAxis, f.zAxis, a, b), b);
-    expectNear(b, p, 3, 1e-14);
+    EXPECT_EQ(mathTransLocalPnt3DByOXYZ(f.origin, f.xAxis, f.yAxis, f.zAxis, a, back), back);
+    expectNear(back, p, 3, 1e-14);
     EXPECT_EQ(mathTransWorldPnt3DTo2DByOXY(f.origin, f.xAxis, f.yAxis, p, c), c);
     EXPECT_EQ(c[1], a[1]);
     // The output may share its storage with the y axis.
@@ -118,7 +114,7 @@ TEST(FrameConversion, SeparateAxes)
     mathTransWorldPnt3DTo2DByOXY(f.origin, f.xAxis, yq, p, yq);
     expectNear(yq, c, 2, 0.0);
     EXPECT_EQ(mathTransWorldVec3DByXYZ(f.xAxis, f.yAxis, f.zAxis, p, a), a);
-    EXPECT_EQ(mathTransLocalVec3DByXYZ(f.xAxis, f.yAxis, f.zAxis, a, b), b);
+    EXPECT_EQ(mathTransLocalVec3DByXYZ(f.xAxis, f.yAxis, f.zAxis, a, back), back);
 
     // The plane frame: the y axis is x turned anticlockwise.
     const double o[2] = {1, 1}, x[2] = {0.6, 0.8}, left[2] = {1 - 0.8, 1 + 0.6}, pp[2] = {-4.0, 2.5};
@@ -128,17 +124,14 @@ TEST(FrameConversion, SeparateAxes)
     mathTransWorldPnt2DByOX(o, x, pp, l);
     mathTransLocalPnt2DByOX(o, x, l, w);
     expectNear(w, pp, 2, 1e-14);
-}
 
-TEST(FrameConversion, HomogeneousPoints)
-{
-    const MathRFrame f = tiltedFrame();
+    // Homogeneous points, converted in runs.
     const double pts[12] = {1, 2, 3, 1, 2, 4, 6, 2, -1, 0.5, 3, -0.5};
-    double local[12], world[12];
-    ASSERT_EQ(mathTransWorldStr4D(3, &f, pts, local), 1);
-    ASSERT_EQ(mathTransLocalStr4D(3, &f, local, world), 1);
-    expectNear(world, pts, 12, 1e-13);
-    EXPECT_EQ(local[11], -0.5);
+    double local4[12], world4[12];
+    ASSERT_EQ(mathTransWorldStr4D(3, &f, pts, local4), 1);
+    ASSERT_EQ(mathTransLocalStr4D(3, &f, local4, world4), 1);
+    expectNear(world4, pts, 12, 1e-13);
+    EXPECT_EQ(local4[11], -0.5);
 
     // A point at infinity stops the conversion after the earlier points.
     const double bad[8] = {1, 2, 3, 1, 1, 1, 1, 1e-11};

@@ -15,13 +15,19 @@ void expectPoint(const point_2d& p, float x, float y, float tol = 1e-5f)
     EXPECT_NEAR(p.y, y, tol);
 }
 
+void expectMatrix(const TRANSF_2D& t, const float* expected, float tol = 0.0f)
+{
+    float m[9];
+    t.Get9(m);
+    for (int k = 0; k < 9; ++k)
+        EXPECT_NEAR(m[k], expected[k], tol) << k;
+}
+
 void expectIdentity(const TRANSF_2D& t, float tol = 0.0f)
 {
-    float m[9], id[9];
-    t.Get9(m);
+    float id[9];
     InitMatrix2D(id);
-    for (int k = 0; k < 9; ++k)
-        EXPECT_NEAR(m[k], id[k], tol) << k;
+    expectMatrix(t, id, tol);
 }
 
 } // namespace
@@ -43,12 +49,11 @@ TEST(Transf2D, StorageOrderAndArrayExchange)
 
     float back[3][3];
     t.Get3X3(back);
-    for (int r = 0; r < 3; ++r) {
+    for (int r = 0; r < 3; ++r)
         for (int c = 0; c < 3; ++c) {
             EXPECT_EQ(back[r][c], m[3 * r + c]);
             EXPECT_EQ(t(r, c), m[3 * r + c]);
         }
-    }
     // Indices outside the matrix read m[0][0].
     EXPECT_EQ(t(3, 0), 1.0f);
     EXPECT_EQ(t(-1, 2), 1.0f);
@@ -56,10 +61,7 @@ TEST(Transf2D, StorageOrderAndArrayExchange)
 
     TRANSF_2D u;
     u.Set3X3(back);
-    float again[9];
-    u.Get9(again);
-    for (int k = 0; k < 9; ++k)
-        EXPECT_EQ(again[k], m[k]);
+    expectMatrix(u, m);
 
     // The 4x4 forms: the projective column becomes the fourth column.
     float f16[16];
@@ -115,16 +117,12 @@ TEST(Transf2D, ComposedStepsActAfterTheCurrentOne)
     m.DefMirrorXAxis();
     m.MirrorYAxis();
     expectPoint(point_2d(2, 3) * m, -2, -3);
-}
 
-TEST(Transf2D, MirrorInALine)
-{
-    TRANSF_2D t;
+    // Mirror in a line: the diagonal, then a line away from the origin,
+    // composed after a move.
     t.DefMirror(point_2d(0, 0), point_2d(1, 1));
     expectPoint(point_2d(1, 0) * t, 0, 1);
     expectPoint(point_2d(3, 3) * t, 3, 3);
-
-    // A line away from the origin, composed after a move.
     t.DefMove(point_2d(0, 1));
     t.Mirror(point_2d(0, 2), point_2d(5, 2));
     expectPoint(point_2d(4, 0) * t, 4, 3);

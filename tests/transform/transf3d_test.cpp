@@ -28,7 +28,7 @@ void expectSame(const TRANSF_3D& a, const TRANSF_3D& b, float tol = 0.0f)
 
 } // namespace
 
-TEST(Transf3D, StorageOrderAndArrayExchange)
+TEST(Transf3D, StorageOrderAndExchangeWithArraysAndPlanes)
 {
     // Sixteen floats in memory: three axes, projective column, origin, scale.
     static_assert(sizeof(TRANSF_3D) == 16 * sizeof(float), "sixteen floats");
@@ -44,10 +44,9 @@ TEST(Transf3D, StorageOrderAndArrayExchange)
     expectPoint(t.pAxis, 4, 8, 12, 0);
     expectPoint(t.origin, 13, 14, 15, 0);
     EXPECT_EQ(t.GetScale(), 16.0f);
-    for (int r = 0; r < 4; ++r) {
+    for (int r = 0; r < 4; ++r)
         for (int c = 0; c < 4; ++c)
             EXPECT_EQ(t(r, c), m[4 * r + c]) << r << c;
-    }
     EXPECT_EQ(t(4, 0), 1.0f);
     EXPECT_EQ(t(0, -1), 1.0f);
 
@@ -67,10 +66,8 @@ TEST(Transf3D, StorageOrderAndArrayExchange)
     expectPoint(tr.origin, 4, 8, 12, 0);
     expectPoint(tr.pAxis, 13, 14, 15, 0);
     expectPoint(tr.xAxis, 1, 5, 9, 0);
-}
 
-TEST(Transf3D, FromPlaneTransformation)
-{
+    // From a plane transformation.
     TRANSF_2D plane;
     plane.DefMove(point_2d(1, 1));
     plane.Rotate(kPi / 2);
@@ -105,7 +102,7 @@ TEST(Transf3D, InverseByElimination)
     expectSame(tiny.Inverse(), tiny);
 }
 
-TEST(Transf3D, RotateLineTurnsAboutTheDoubledPoint)
+TEST(Transf3D, RotationsTurnAboutTheDoubledPoint)
 {
     TRANSF_3D t;
     t.DefRotateLine(point_3d(1, 0, 0), point_3d(1, 0, 1), kPi);
@@ -117,8 +114,7 @@ TEST(Transf3D, RotateLineTurnsAboutTheDoubledPoint)
     expectPoint(point_3d(1, 0, 0) * t, 0, 1, 0);
 
     // The double overload rotates about the line through o itself.
-    const double o[3] = {1, 0, 0};
-    const double d[3] = {0, 0, 1};
+    const double o[3] = {1, 0, 0}, d[3] = {0, 0, 1};
     t.DefRotate(o, d, 3.141592653589793);
     expectPoint(point_3d(0, 0, 0) * t, 2, 0, 0);
 
@@ -126,6 +122,27 @@ TEST(Transf3D, RotateLineTurnsAboutTheDoubledPoint)
     t.DefMove(point_3d(1, 0, 0));
     t.RotateLine(point_3d(1, 0, 0), point_3d(1, 0, 1), kPi);
     expectPoint(point_3d(0, 0, 0) * t, 3, 0, 0);
+
+    // One direction onto another.
+    t.DefRotate(point_3d(0, 0, 0), point_3d(1, 0, 0), point_3d(0, 2, 0));
+    expectPoint(point_3d(1, 0, 0) * t, 0, 1, 0);
+    expectPoint(point_3d(0, 0, 1) * t, 0, 0, 1);
+    t.DefRotate(point_3d(0, 0, 0), point_3d(1, 2, 3), point_3d(-1, -2, -3));
+    expectPoint(point_3d(1, 2, 3) * t, -1, -2, -3, 1e-4f);
+
+    // A zero u gives no axis at all: the object is left as it was.
+    t.DefMove(point_3d(5, 5, 5));
+    const TRANSF_3D moved = t;
+    t.DefRotate(point_3d(0, 0, 0), point_3d(0, 0, 0), point_3d(1, 0, 0));
+    expectSame(t, moved);
+    t.DefRotate(point_3d(0, 0, 0), point_3d(1, 0, 0), point_3d(3, 0, 0));
+    expectSame(t, TRANSF_3D());
+
+    // Off the origin the axis passes through 2*p, which stays fixed.
+    t.DefRotate(point_3d(1, 1, 0), point_3d(1, 0, 0), point_3d(0, 1, 0));
+    expectPoint(point_3d(2, 2, 0) * t, 2, 2, 0);
+    const point_3d dir = point_3d(3, 2, 0) * t - point_3d(2, 2, 0) * t;
+    expectPoint(dir, 0, 1, 0);
 }
 
 TEST(Transf3D, FramesAndUnit)
@@ -153,8 +170,7 @@ TEST(Transf3D, FramesAndUnit)
     expectPoint(f.xAxis, 0, 1, 0);
     expectPoint(f.yAxis, -1, 0, 0);
     // The double form normalises through Unit.
-    const double o[3] = {0, 0, 0};
-    const double z[3] = {0, 0, 5};
+    const double o[3] = {0, 0, 0}, z[3] = {0, 0, 5};
     f.Define(o, z);
     expectPoint(f.zAxis, 0, 0, 1);
 
@@ -177,38 +193,12 @@ TEST(Transf3D, FramesAndUnit)
     expectSame(u, TRANSF_3D());
 }
 
-TEST(Transf3D, RotationTakingOneDirectionToAnother)
-{
-    TRANSF_3D t;
-    t.DefRotate(point_3d(0, 0, 0), point_3d(1, 0, 0), point_3d(0, 2, 0));
-    expectPoint(point_3d(1, 0, 0) * t, 0, 1, 0);
-    expectPoint(point_3d(0, 0, 1) * t, 0, 0, 1);
-
-    t.DefRotate(point_3d(0, 0, 0), point_3d(1, 2, 3), point_3d(-1, -2, -3));
-    expectPoint(point_3d(1, 2, 3) * t, -1, -2, -3, 1e-4f);
-
-    // A zero u gives no axis at all: the object is left as it was.
-    t.DefMove(point_3d(5, 5, 5));
-    const TRANSF_3D moved = t;
-    t.DefRotate(point_3d(0, 0, 0), point_3d(0, 0, 0), point_3d(1, 0, 0));
-    expectSame(t, moved);
-    t.DefRotate(point_3d(0, 0, 0), point_3d(1, 0, 0), point_3d(3, 0, 0));
-    expectSame(t, TRANSF_3D());
-
-    // Off the origin the axis passes through 2*p, which stays fixed.
-    t.DefRotate(point_3d(1, 1, 0), point_3d(1, 0, 0), point_3d(0, 1, 0));
-    expectPoint(point_3d(2, 2, 0) * t, 2, 2, 0);
-    const point_3d dir = point_3d(3, 2, 0) * t - point_3d(2, 2, 0) * t;
-    expectPoint(dir, 0, 1, 0);
-}
-
-TEST(Transf3D, Mirrors)
+TEST(Transf3D, MirrorsStandardStepsAndPointForms)
 {
     TRANSF_3D t;
     t.DefMirrorPlane(point_3d(0, 0, 1), point_3d(0, 0, 1));
     expectPoint(point_3d(3, 4, 5) * t, 3, 4, -3);
-    const double p[3] = {0, 0, 0};
-    const double n[3] = {1, 1, 0};
+    const double p[3] = {0, 0, 0}, n[3] = {1, 1, 0};
     t.DefMirror(p, n);
     expectPoint(point_3d(1, 0, 0) * t, 0, -1, 0);
 
@@ -225,11 +215,7 @@ TEST(Transf3D, Mirrors)
     expectPoint(point_3d(0, 0, 0) * t, 1, 1, 1, 0);
     t.MirrorXOYPlane();
     expectPoint(point_3d(0, 0, 0) * t, 1, 1, -1, 0);
-}
 
-TEST(Transf3D, StandardStepsAndPointForms)
-{
-    TRANSF_3D t;
     // X acts first: (0, 1, 0) -> (0, 0, 1) -> (1, 0, 0).
     t.DefRotate(kPi / 2, kPi / 2, 0.0f);
     expectPoint(point_3d(0, 1, 0) * t, 1, 0, 0);
@@ -237,21 +223,15 @@ TEST(Transf3D, StandardStepsAndPointForms)
     t.DefScale(point_3d(1, 1, 1), 2, 3, 4);
     expectPoint(point_3d(1, 1, 1) * t, 1, 1, 1);
     expectPoint(point_3d(2, 2, 2) * t, 3, 4, 5);
-    const double c[3] = {1, 1, 1};
-    const double s[3] = {2, 3, 4};
+    const double c[3] = {1, 1, 1}, s[3] = {2, 3, 4}, mv[3] = {1, 2, 3};
     TRANSF_3D u;
     u.DefScale(c, s);
     expectSame(t, u);
-    const double mv[3] = {1, 2, 3};
     u.DefMove(mv);
     expectPoint(point_3d(0, 0, 0) * u, 1, 2, 3, 0);
 
     // The homogeneous form uses the projective column and the scale.
-    float m[16];
-    InitMatrix3D(m);
-    m[11] = 1;
-    m[15] = 2;
-    m[12] = 10;
+    const float m[16] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 1, 10, 0, 0, 2};
     const TRANSF_3D h(m);
     const point_4d q = point_4d(1, 2, 3, 1) * h;
     EXPECT_EQ(q.x, 11.0f);
