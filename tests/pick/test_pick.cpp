@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <vector>
 
 namespace {
@@ -25,19 +26,50 @@ std::vector<Point> Polyline2D(std::initializer_list<std::pair<float, float>> xy)
 }
 
 // Restores the global tolerances changed by a test.
-class SavedTolerances {
-public:
-    SavedTolerances() : dist(gmGetDistTol()), para(gmGetParaTol()), zero(gmGetAbsZero()) {}
-    ~SavedTolerances()
-    {
-        gmSetDistTol(dist);
-        gmSetParaTol(para);
-        gmSetAbsZero(zero);
-    }
-
-private:
-    double dist, para, zero;
+struct SavedTolerances {
+    const double dist = gmGetDistTol(), para = gmGetParaTol(), zero = gmGetAbsZero();
+    ~SavedTolerances() { gmSetDistTol(dist); gmSetParaTol(para); gmSetAbsZero(zero); }
 };
+
+// The result and both outputs of a polyline pick. The outputs start as
+// sentinels, so a miss that leaves them in place compares equal to `miss`.
+struct Pick {
+    int hit;
+    double depth, param;
+    bool operator==(const Pick& o) const { return hit == o.hit && depth == o.depth && param == o.param; }
+};
+
+void PrintTo(const Pick& p, std::ostream* os)
+{
+    *os << "{" << p.hit << ", " << p.depth << ", " << p.param << "}";
+}
+
+const Pick miss = {0, untouched, untouched};
+
+template <class Point>
+Pick PickPolyline(int (*pick)(const Point*, int, const double*, const double*, double, double&, double&),
+                  const std::vector<Point>& pts, const double eye[3], double radius)
+{
+    Pick r = miss;
+    r.hit = pick(pts.data(), static_cast<int>(pts.size()), eye, down, radius, r.depth, r.param);
+    return r;
+}
+
+Pick Pick2D(std::initializer_list<std::pair<float, float>> xy, const double eye[3], double radius)
+{
+    return PickPolyline(PntPickPT2D, Polyline2D<point_2d>(xy), eye, radius);
+}
+
+// Screen = model x, y; z moves the point along screen x through m[8].
+const double identity[16] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+const double wmin[2] = {0, 0};
+const double wmax[2] = {10, 10};
+
+int Window2D(std::initializer_list<std::pair<float, float>> xy)
+{
+    const std::vector<point_2d> pts = Polyline2D<point_2d>(xy);
+    return WinInterPt2D(pts.data(), static_cast<int>(pts.size()), identity, wmin, wmax);
+}
 
 } // namespace
 
@@ -55,8 +87,7 @@ TEST(RayPick, SinglePointHitsStrictlyInsideTheRadius)
     EXPECT_EQ(PntPickPt(point_2d(0.5f, 0.0f), eye, down, 0.5000001, depth), 1);
 
     // A ray along x: the view frame follows the direction.
-    const double side[3] = {-10, 0, 0};
-    const double alongX[3] = {1, 0, 0};
+    const double side[3] = {-10, 0, 0}, alongX[3] = {1, 0, 0};
     EXPECT_EQ(PntPickPt(point_2d(2.0f, 0.3f), side, alongX, 0.5, depth), 1);
     EXPECT_DOUBLE_EQ(depth, 12.0);
     EXPECT_EQ(PntPickPt(point_2d(2.0f, 0.6f), side, alongX, 0.5, depth), 0);
@@ -71,91 +102,53 @@ TEST(RayPick, SinglePointHitsStrictlyInsideTheRadius)
 
 TEST(RayPick, PolylineFindsVerticesAndInteriors)
 {
-    double depth = untouched, param = untouched;
-
     // Null, empty and single-vertex polylines are never picked, even under
     // the cursor.
     const double eye[3] = {0, 0, 10};
-    const std::vector<point_2d> one = Polyline2D<point_2d>({{0, 0}});
+    const point_2d origin(0, 0);
+    double depth = untouched, param = untouched;
     EXPECT_EQ(PntPickPT2D(nullptr, 2, eye, down, 1.0, depth, param), 0);
-    EXPECT_EQ(PntPickPT2D(one.data(), 0, eye, down, 1.0, depth, param), 0);
-    EXPECT_EQ(PntPickPT2D(one.data(), 1, eye, down, 1.0, depth, param), 0);
-    EXPECT_EQ(depth, untouched);
-    EXPECT_EQ(param, untouched);
+    EXPECT_EQ(PntPickPT2D(&origin, 0, eye, down, 1.0, depth, param), 0);
+    EXPECT_EQ(PntPickPT2D(&origin, 1, eye, down, 1.0, depth, param), 0);
+    EXPECT_EQ((Pick{0, depth, param}), miss);
 
-    // The interior of a segment.
-    const double above[3] = {0, 1, 10};
-    const std::vector<point_2d> line = Polyline2D<point_2d>({{-5, 0}, {5, 0}});
-    EXPECT_EQ(PntPickPT2D(line.data(), 2, above, down, 2.0, depth, param), 1);
-    EXPECT_DOUBLE_EQ(param, 0.5);
-    EXPECT_DOUBLE_EQ(depth, 10.0);
-
-    // Exactly at the radius from the line: a miss, just beyond it a hit.
-    const double twoAbove[3] = {0, 2, 10};
-    depth = param = untouched;
-    EXPECT_EQ(PntPickPT2D(line.data(), 2, twoAbove, down, 2.0, depth, param), 0);
-    EXPECT_EQ(param, untouched);
-    EXPECT_EQ(PntPickPT2D(line.data(), 2, twoAbove, down, 2.0001, depth, param), 1);
-    EXPECT_DOUBLE_EQ(param, 0.5);
+    // The interior of a segment; exactly at the radius from the line is a
+    // miss, just beyond it a hit.
+    const double above[3] = {0, 1, 10}, twoAbove[3] = {0, 2, 10};
+    EXPECT_EQ(Pick2D({{-5, 0}, {5, 0}}, above, 2.0), (Pick{1, 10.0, 0.5}));
+    EXPECT_EQ(Pick2D({{-5, 0}, {5, 0}}, twoAbove, 2.0), miss);
+    EXPECT_EQ(Pick2D({{-5, 0}, {5, 0}}, twoAbove, 2.0001), (Pick{1, 10.0, 0.5}));
 
     // The nearest point of the line lies beyond the segment's ends.
-    const std::vector<point_2d> apart = Polyline2D<point_2d>({{1, 0}, {5, 0}});
-    EXPECT_EQ(PntPickPT2D(apart.data(), 2, eye, down, 0.5, depth, param), 0);
+    EXPECT_EQ(Pick2D({{1, 0}, {5, 0}}, eye, 0.5), miss);
 
-    // The end vertex of a segment comes before the next segment's start.
-    const std::vector<point_2d> bent = Polyline2D<point_2d>({{3, 0}, {0, 0}, {0, -3}});
-    EXPECT_EQ(PntPickPT2D(bent.data(), 3, eye, down, 0.5, depth, param), 1);
-    EXPECT_EQ(param, 1.0);
-    // The first segment in order wins over a closer later one.
-    const std::vector<point_2d> twice = Polyline2D<point_2d>({{-1, 0.4f}, {1, 0.4f}, {1, 0}, {-1, 0}});
-    EXPECT_EQ(PntPickPT2D(twice.data(), 4, eye, down, 0.5, depth, param), 1);
-    EXPECT_DOUBLE_EQ(param, 0.5);
+    // The end vertex of a segment comes before the next segment's start, and
+    // the first segment in order wins over a closer later one.
+    EXPECT_EQ(Pick2D({{3, 0}, {0, 0}, {0, -3}}, eye, 0.5), (Pick{1, 10.0, 1.0}));
+    EXPECT_EQ(Pick2D({{-1, 0.4f}, {1, 0.4f}, {1, 0}, {-1, 0}}, eye, 0.5), (Pick{1, 10.0, 0.5}));
 }
 
 TEST(RayPick, DepthRunsFromTheFirstVertexAndOutputsAreFloats)
 {
-    const double eye[3] = {0, 0, 10};
-    double depth = untouched, param = untouched;
-
     // Segment 2 runs from depth 6 to depth 2 but the depth is interpolated
     // from vertex 0 (depth 10): 0.5 * 10 + 0.5 * 2 = 6, not 4.
-    const point_3d pts[] = {point_3d(-20, 20, 0), point_3d(-10, 0, 4), point_3d(10, 0, 8)};
-    EXPECT_EQ(PntPickPT3D(pts, 3, eye, down, 1.0, depth, param), 1);
-    EXPECT_DOUBLE_EQ(param, 1.5);
-    EXPECT_DOUBLE_EQ(depth, 6.0);
+    const double eye[3] = {0, 0, 10};
+    const std::vector<point_3d> pts = {point_3d(-20, 20, 0), point_3d(-10, 0, 4), point_3d(10, 0, 8)};
+    EXPECT_EQ(PickPolyline(PntPickPT3D, pts, eye, 1.0), (Pick{1, 6.0, 1.5}));
 
-    // Both outputs are rounded to float.
+    // Both outputs are rounded to float: a third is not the double one.
     const double highEye[3] = {0, 0, 10.1};
-    const std::vector<point_2d> third = Polyline2D<point_2d>({{-1, 0}, {2, 0}});
-    EXPECT_EQ(PntPickPT2D(third.data(), 2, highEye, down, 0.01, depth, param), 1);
-    EXPECT_EQ(depth, static_cast<double>(10.1f));
-    EXPECT_EQ(param, static_cast<double>(static_cast<float>(param)));
-    EXPECT_NEAR(param, 1.0 / 3.0, 1e-7);
-    EXPECT_NE(param, 1.0 / 3.0);
+    const Pick third = Pick2D({{-1, 0}, {2, 0}}, highEye, 0.01);
+    EXPECT_EQ(third, (Pick{1, static_cast<double>(10.1f), static_cast<double>(1.0f / 3.0f)}));
+    EXPECT_NE(third.param, 1.0 / 3.0);
 
     // nd_point_2d arrays are walked with their own stride; the tag is
     // ignored. A later segment gives its start index plus the fraction.
     std::vector<nd_point_2d> tagged = Polyline2D<nd_point_2d>({{-9, 9}, {-9, 5}, {-4, 0}, {4, 0}});
     for (nd_point_2d& p : tagged)
         p.tag = 0xFFFF;
-    EXPECT_EQ(PntPickNDPT2D(tagged.data(), 4, eye, down, 0.5, depth, param), 1);
-    EXPECT_DOUBLE_EQ(param, 2.5);
+    EXPECT_EQ(PickPolyline(PntPickNDPT2D, tagged, eye, 0.5), (Pick{1, 10.0, 2.5}));
 }
-
-namespace {
-
-// Screen = model x, y; z moves the point along screen x through m[8].
-const double identity[16] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
-const double wmin[2] = {0, 0};
-const double wmax[2] = {10, 10};
-
-int Window2D(std::initializer_list<std::pair<float, float>> xy)
-{
-    const std::vector<point_2d> pts = Polyline2D<point_2d>(xy);
-    return WinInterPt2D(pts.data(), static_cast<int>(pts.size()), identity, wmin, wmax);
-}
-
-} // namespace
 
 TEST(WindowPick, VerticesCountWithinTheMargin)
 {
