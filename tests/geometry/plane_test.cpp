@@ -12,7 +12,7 @@ void expectPoint(const double p[3], double x, double y, double z)
 }
 
 const double kOrigin[3] = {0.0, 0.0, 0.0};
-const double kUp[3] = {0.0, 0.0, 1.0};
+const double kX[3] = {1.0, 0.0, 0.0}, kY[3] = {0.0, 1.0, 0.0}, kUp[3] = {0.0, 0.0, 1.0};
 
 } // namespace
 
@@ -20,48 +20,39 @@ TEST(Plane, LineInPlaneUsesFixedReach)
 {
     // The far test point sits at parameter 100: a slope of 1e-3 lifts it
     // by 0.1, whatever the tolerance at the start point.
-    const double l[3] = {0.0, 0.0, 0.0};
-    const double d[3] = {1.0, 0.0, 0.001};
-    EXPECT_EQ(mathIsLinOnPln(l, d, kOrigin, kUp, 0.05), 0);
-    EXPECT_EQ(mathIsLinOnPln(l, d, kOrigin, kUp, 0.2), 1);
-    const double high[3] = {0.0, 0.0, 0.2};
-    const double flat[3] = {1.0, 0.0, 0.0};
-    EXPECT_EQ(mathIsLinOnPln(high, flat, kOrigin, kUp, 0.2), 0);
+    const double d[3] = {1.0, 0.0, 0.001}, high[3] = {0.0, 0.0, 0.2};
+    EXPECT_EQ(mathIsLinOnPln(kOrigin, d, kOrigin, kUp, 0.05), 0);
+    EXPECT_EQ(mathIsLinOnPln(kOrigin, d, kOrigin, kUp, 0.2), 1);
+    EXPECT_EQ(mathIsLinOnPln(high, kX, kOrigin, kUp, 0.2), 0);
 }
 
 TEST(Plane, LineIntersection)
 {
-    const double l[3] = {1.0, 1.0, 4.0};
-    const double d[3] = {0.0, 0.6, -0.8};
+    const double l[3] = {1.0, 1.0, 4.0}, d[3] = {0.0, 0.6, -0.8};
+    const double inPlane[3] = {7.0, 8.0, 0.0005}, atTol[3] = {7.0, 8.0, 0.25};
     double x[3];
     EXPECT_EQ(mathIntLinPln(l, d, kOrigin, kUp, 1e-6, 1e-6, x), 1);
     expectPoint(x, 1.0, 4.0, 0.0);
 
     // Parallel: x is the line's own point; in the plane (4) or off it (2).
-    const double flat[3] = {1.0, 0.0, 0.0};
-    const double inPlane[3] = {7.0, 8.0, 0.0005};
-    EXPECT_EQ(mathIntLinPln(inPlane, flat, kOrigin, kUp, 0.001, 1e-6, x), 4);
+    EXPECT_EQ(mathIntLinPln(inPlane, kX, kOrigin, kUp, 0.001, 1e-6, x), 4);
     expectPoint(x, 7.0, 8.0, 0.0005);
-    EXPECT_EQ(mathIntLinPln(l, flat, kOrigin, kUp, 0.001, 1e-6, x), 2);
+    EXPECT_EQ(mathIntLinPln(l, kX, kOrigin, kUp, 0.001, 1e-6, x), 2);
     expectPoint(x, 1.0, 1.0, 4.0);
     // Both tests are strict: |d . n| = 0.8 is not parallel for paraTol 0.8,
     // a height of 0.25 is not in the plane for distTol 0.25.
     EXPECT_EQ(mathIntLinPln(l, d, kOrigin, kUp, 1e-6, 0.8, x), 1);
-    const double atTol[3] = {7.0, 8.0, 0.25};
-    EXPECT_EQ(mathIntLinPln(atTol, flat, kOrigin, kUp, 0.25, 1e-6, x), 2);
+    EXPECT_EQ(mathIntLinPln(atTol, kX, kOrigin, kUp, 0.25, 1e-6, x), 2);
 }
 
 TEST(Plane, SegmentIntersectionCodes)
 {
     const double tol = 0.01;
-    double x1[3], x2[3];
-    double t1 = -1.0, t2 = -1.0;
+    const double a[3] = {0.0, 0.0, -1.0}, b[3] = {0.0, 0.0, 3.0};
+    const double c[3] = {1.0, 0.0, 0.005}, e[3] = {2.0, 0.0, -0.005};
+    double x1[3], x2[3], t1 = -1.0, t2 = -1.0;
 
-    const double a[3] = {0.0, 0.0, -1.0};
-    const double b[3] = {0.0, 0.0, 3.0};
     // Both ends within tol: the whole segment, parameters 0 and 1.
-    const double c[3] = {1.0, 0.0, 0.005};
-    const double e[3] = {2.0, 0.0, -0.005};
     EXPECT_EQ(mathIntSegmPln(c, e, kOrigin, kUp, tol, x1, x2, &t1, &t2), 4);
     expectPoint(x1, 1.0, 0.0, 0.005);
     expectPoint(x2, 2.0, 0.0, -0.005);
@@ -93,20 +84,16 @@ TEST(Plane, SegmentIntersectionCodes)
 
 TEST(Plane, TwoPlanes)
 {
-    const double p1[3] = {0.0, 0.0, 2.0};
-    const double n2[3] = {1.0, 0.0, 0.0};
-    const double p2[3] = {3.0, 5.0, 7.0};
-    double x[3] = {42.0, 42.0, 42.0};
-    double d[3];
+    const double p1[3] = {0.0, 0.0, 2.0}, p2[3] = {3.0, 5.0, 7.0};
+    double x[3] = {42.0, 42.0, 42.0}, d[3];
     // Dx = 0, so the point is taken on y = 0.
-    EXPECT_EQ(mathIntPln(p1, kUp, p2, n2, 1e-6, 1e-6, x, d), 1);
+    EXPECT_EQ(mathIntPln(p1, kUp, p2, kX, 1e-6, 1e-6, x, d), 1);
     expectPoint(d, 0.0, 1.0, 0.0);
     expectPoint(x, 3.0, 0.0, 2.0);
 
     // D = (0.6, 0.8, 0): x is the first axis above half the length, so the
     // point goes on x = 0 although y is the larger component.
-    const double n3[3] = {0.8, -0.6, 0.0};
-    const double p3[3] = {3.0, 0.0, 0.0};
+    const double n3[3] = {0.8, -0.6, 0.0}, p3[3] = {3.0, 0.0, 0.0};
     EXPECT_EQ(mathIntPln(p1, kUp, p3, n3, 1e-6, 1e-6, x, d), 1);
     expectPoint(d, 0.6, 0.8, 0.0);
     expectPoint(x, 0.0, -4.0, 2.0);
@@ -127,26 +114,22 @@ TEST(Plane, TwoPlanes)
 
 TEST(Plane, ThreePlanesAlwaysReport801)
 {
-    const double ex[3] = {1.0, 0.0, 0.0};
-    const double ey[3] = {0.0, 1.0, 0.0};
-    const double p[3] = {1.0, 2.0, 3.0};
+    const double p[3] = {1.0, 2.0, 3.0}, q[3] = {0.0, 0.0, 5.0}, nz[3] = {0.0, 0.0, 1e-4};
     double x[3] = {42.0, 42.0, 42.0};
-    EXPECT_EQ(mathInt3Pln(p, ex, p, ey, p, kUp, 1e-6, x), 801);
+    EXPECT_EQ(mathInt3Pln(p, kX, p, kY, p, kUp, 1e-6, x), 801);
     expectPoint(x, 1.0, 2.0, 3.0);
 
     // Three parallel planes: the system is singular, x is left alone, and
     // the code is the same.
-    const double q[3] = {0.0, 0.0, 5.0};
     x[0] = x[1] = x[2] = 42.0;
     EXPECT_EQ(mathInt3Pln(kOrigin, kUp, p, kUp, q, kUp, 1e-6, x), 801);
     expectPoint(x, 42.0, 42.0, 42.0);
 
     // The determinant tolerance is tol squared: a determinant of 1e-4 is
     // singular for tol 0.0101 but not for tol 0.0099.
-    const double nz[3] = {0.0, 0.0, 1e-4};
     x[0] = 42.0;
-    EXPECT_EQ(mathInt3Pln(p, ex, p, ey, kOrigin, nz, 0.0101, x), 801);
+    EXPECT_EQ(mathInt3Pln(p, kX, p, kY, kOrigin, nz, 0.0101, x), 801);
     EXPECT_EQ(x[0], 42.0);
-    EXPECT_EQ(mathInt3Pln(p, ex, p, ey, kOrigin, nz, 0.0099, x), 801);
+    EXPECT_EQ(mathInt3Pln(p, kX, p, kY, kOrigin, nz, 0.0099, x), 801);
     expectPoint(x, 1.0, 2.0, 0.0);
 }
