@@ -47,7 +47,7 @@ void expectIdentity(const MathRFrame& f, double eps)
     EXPECT_NEAR(f.scale, 1.0, eps);
 }
 
-TEST(FrameRecord, IdentityMoveAndScale)
+TEST(FrameRecord, IdentityMoveScaleAndArrays)
 {
     MathRFrame f;
     mathInitRFrame(&f);
@@ -76,6 +76,15 @@ TEST(FrameRecord, IdentityMoveAndScale)
     const double o[3] = {0, 0, 0}, z[3] = {0, 0, 2}, along[3] = {0, 0, -5}, tiny[3] = {0, 0, 1e-9};
     EXPECT_EQ(mathDerivFrame(o, z, along, &g), 0);
     EXPECT_EQ(mathDerivFrame(o, tiny, v, &g), 0);
+
+    // Arrays of frames start as identities.
+    MathRFrame** arr = mathNewRFrameStr(3);
+    ASSERT_NE(arr, nullptr);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(arr[i]->scale, 1.0);
+    mathFreRFrameStr(3, arr);
+    mathFreRFrameStr(3, nullptr);
+    EXPECT_EQ(mathNewRFrameStr(0), nullptr);
 }
 
 TEST(FrameConversion, RoundTripsFromFramesAxesAndRuns)
@@ -142,7 +151,7 @@ TEST(FrameConversion, RoundTripsFromFramesAxesAndRuns)
     EXPECT_EQ(mathTransLocalStr4D(0, &f, bad, out), 1);
 }
 
-TEST(FrameAlgebra, InverseProductAndRelativeFrame)
+TEST(FrameAlgebra, InverseProductEqualityAndRotation)
 {
     const MathRFrame a = tiltedFrame(), b = otherFrame();
     MathRFrame rel, inv, prod;
@@ -166,25 +175,21 @@ TEST(FrameAlgebra, InverseProductAndRelativeFrame)
     c.scale = 42;
     mathMultRFrame(&a, nullptr, &c);
     EXPECT_EQ(c.scale, 42.0);
-}
 
-TEST(FrameAlgebra, EqualityRotationAndArrays)
-{
-    const MathRFrame a = tiltedFrame();
-    MathRFrame b = a;
-    b.scale = 3; // not compared
-    EXPECT_EQ(mathRFrameEqu(&a, &b, 1e-9), 1);
+    // Equality: the scale is not compared; a shift of 2e-3, or a turn of
+    // 2e-3 about the frame's own z axis, fails at 1e-3 and passes at 3e-3.
+    c = a;
+    c.scale = 3;
+    EXPECT_EQ(mathRFrameEqu(&a, &c, 1e-9), 1);
     const double shift[3] = {0, 2e-3, 0};
-    mathMoveRFrame(shift, &b);
-    EXPECT_EQ(mathRFrameEqu(&a, &b, 1e-3), 0);
-    EXPECT_EQ(mathRFrameEqu(&a, &b, 3e-3), 1);
-
-    // A turn of 2e-3 about the frame's own z axis tilts x and y by that angle.
-    b = a;
-    mathRotateRFrame(a.zAxis, a.origin, 2e-3, &b);
-    expectNear(b.origin, a.origin, 3, 1e-15);
-    EXPECT_EQ(mathRFrameEqu(&a, &b, 1e-3), 0);
-    EXPECT_EQ(mathRFrameEqu(&a, &b, 3e-3), 1);
+    mathMoveRFrame(shift, &c);
+    EXPECT_EQ(mathRFrameEqu(&a, &c, 1e-3), 0);
+    EXPECT_EQ(mathRFrameEqu(&a, &c, 3e-3), 1);
+    c = a;
+    mathRotateRFrame(a.zAxis, a.origin, 2e-3, &c);
+    expectNear(c.origin, a.origin, 3, 1e-15);
+    EXPECT_EQ(mathRFrameEqu(&a, &c, 1e-3), 0);
+    EXPECT_EQ(mathRFrameEqu(&a, &c, 3e-3), 1);
 
     // A quarter turn about the world z axis through (1, 0, 0).
     MathRFrame f;
@@ -199,14 +204,6 @@ TEST(FrameAlgebra, EqualityRotationAndArrays)
     double w[3];
     mathTransLocalPnt3D(&f, local, w);
     expectNear(w, {-1, 0, 3}, 1e-15);
-
-    MathRFrame** arr = mathNewRFrameStr(3);
-    ASSERT_NE(arr, nullptr);
-    for (int i = 0; i < 3; ++i)
-        EXPECT_EQ(arr[i]->scale, 1.0);
-    mathFreRFrameStr(3, arr);
-    mathFreRFrameStr(3, nullptr);
-    EXPECT_EQ(mathNewRFrameStr(0), nullptr);
 }
 
 TEST(FrameMatrix, RowAndColumnForms)

@@ -274,8 +274,7 @@ TEST(MatrixArrays, DoubleMatricesOnPointsAndBoxes)
     mathMatrixPt_2D(point_2d(1, 0), q, m);
     expectPoint(q, 0.70710678f, 0.70710678f, 0);
     nd_point_2d nd;
-    nd.x = 0;
-    nd.y = 1;
+    nd.Set(0, 1);
     mathMatrixNDPt_2D(nd, q, m);
     expectPoint(q, -0.70710678f, 0.70710678f, 0);
     mathMatrixPt_3D(point_3d(0, 0, 1), q, m);

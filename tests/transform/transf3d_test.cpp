@@ -34,9 +34,7 @@ TEST(Transf3D, StorageOrderAndExchangeWithArraysAndPlanes)
     static_assert(sizeof(TRANSF_3D) == 16 * sizeof(float), "sixteen floats");
     static_assert(offsetof(TRANSF_3D, pAxis) == 9 * sizeof(float), "pAxis after zAxis");
     static_assert(offsetof(TRANSF_3D, origin) == 12 * sizeof(float), "origin fourth");
-    float m[16];
-    for (int k = 0; k < 16; ++k)
-        m[k] = static_cast<float>(k + 1);
+    const float m[16] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16};
     const TRANSF_3D t = m; // a plain converting constructor
     expectPoint(t.xAxis, 1, 2, 3, 0);
     expectPoint(t.yAxis, 5, 6, 7, 0);
