@@ -107,9 +107,9 @@ TEST(CalcTool, ReportsErrorsWithStatus)
 
     // Command-line errors: status 1 and a message naming the problem.
     o = RunTool({"a+1", "b=2"});
-    EXPECT_TRUE(o.status == 1 && Has(o.err, "no variable 'b'")) << o.err;
+    EXPECT_TRUE(o.status == 1 && Has(o.err, "no variable 'b'")) << o.status << " " << o.err;
     o = RunTool({"a+b", "a=1"});
-    EXPECT_TRUE(o.status == 1 && Has(o.err, "no value for variable B")) << o.err;
+    EXPECT_TRUE(o.status == 1 && Has(o.err, "no value for variable B")) << o.status << " " << o.err;
     const std::vector<std::vector<std::string>> bad = {
         {}, {"a+1", "a="}, {"a+1", "a=1x"}, {"a+1", "a=1", "a=2"}, {"1", "2"},
         {"--bogus", "1"}, {"--digits", "18", "1"}, {"--interactive", "1+1"},
