@@ -8,11 +8,9 @@
 namespace {
 
 struct Item {
-    Item *prev;
-    Item *next;
+    Item *prev, *next;
     int id;
 };
-
 struct Node {
     Node *next;
     int id;
@@ -72,19 +70,16 @@ TEST(TwoWayChain, JoinInsertUnlinkReverseAndRelease)
     EXPECT_EQ(idsOf(head), (Ids{0, 3, 4, 1, 2}));
     EXPECT_EQ(mathGetNumOfItemInBDChns(head), 5);
 
-    // Unlinking from the middle, the end and the head; the unlinked
-    // records keep their own links.
+    // Unlinking the middle, the end and the head; unlinked records keep their links.
     Item *middle = head->next->next; // id 4
     head = static_cast<Item *>(mathDelItemInBDChns(middle, head));
     EXPECT_EQ(middle->next->id, 1);
-    Item *last = head->next->next->next; // id 2
+    Item *last = head->next->next->next, *oldHead = head; // ids 2 and 0
     head = static_cast<Item *>(mathDelItemInBDChns(last, head));
-    Item *oldHead = head;
     head = static_cast<Item *>(mathDelItemInBDChns(head, head));
     EXPECT_EQ(idsOf(head), (Ids{3, 1}));
-    delete middle;
-    delete last;
-    delete oldHead;
+    for (Item *gone : {middle, last, oldHead})
+        delete gone;
 
     head = static_cast<Item *>(mathRevBDChns(head));
     EXPECT_EQ(idsOf(head), (Ids{1, 3}));
@@ -109,14 +104,12 @@ TEST(OneWayChain, JoinInsertUnlinkAndRelease)
 
     Node stranger{nullptr, 7}; // not in the chain: nothing changes
     EXPECT_EQ(mathDelItemInSDChns(&stranger, head), head);
-    Node *one = head->next->next;
+    Node *one = head->next->next, *oldHead = head;
     head = static_cast<Node *>(mathDelItemInSDChns(one, head));
-    Node *oldHead = head;
     head = static_cast<Node *>(mathDelItemInSDChns(head, head));
     EXPECT_EQ(idsOf(head), (Ids{3, 2}));
     delete one;
     delete oldHead;
-
     mathFreSDChns(head);
     mathFreSDChns(nullptr);
     EXPECT_EQ(mathGetNumOfItemInSDChns(nullptr), 0);
@@ -124,16 +117,14 @@ TEST(OneWayChain, JoinInsertUnlinkAndRelease)
 
 TEST(StringsAndNets, SizesAndRelease)
 {
-    double *s = NewStr3D(4);
-    ASSERT_NE(s, nullptr);
-    s[(4 + 3) * 3 - 1] = 1.0; // the slack is writable
+    // The slack past the points and knots is writable (valgrind sees it).
+    double *s = NewStr3D(4), *knots = NewKntStr(5, 3);
+    ASSERT_TRUE(s && knots);
+    s[(4 + 3) * 3 - 1] = knots[5 + 3 + 4] = 1.0;
     DelStr1D(&s);
     EXPECT_EQ(s, nullptr);
     DelStr1D(&s);
     DelStr1D(nullptr);
-    double *knots = NewKntStr(5, 3);
-    ASSERT_NE(knots, nullptr);
-    knots[5 + 3 + 4] = 1.0;
     DelStr1D(&knots);
     EXPECT_EQ(NewStr1D(-10), nullptr);
 
@@ -141,12 +132,10 @@ TEST(StringsAndNets, SizesAndRelease)
     double **net = nullptr;
     ASSERT_EQ(NewNet2D(&net, 2, 4), net);
     ASSERT_NE(net, nullptr);
-    for (int i = 0; i <= 2; ++i) {
-        ASSERT_NE(net[i], nullptr);
+    for (int i = 0; i <= 4; ++i)
+        ASSERT_EQ(net[i] == nullptr, i > 2) << "row " << i;
+    for (int i = 0; i <= 2; ++i)
         net[i][13] = i;
-    }
-    EXPECT_EQ(net[3], nullptr);
-    EXPECT_EQ(net[4], nullptr);
     DelNet1D(2, &net);
     EXPECT_EQ(net, nullptr);
     DelNet1D(2, &net);
@@ -165,15 +154,12 @@ TEST(DoubleArrays, SortFilterExtremesAndReverse)
     mathRevDblArray(5, a);
     EXPECT_EQ(Dbls(a, a + 5), (Dbls{3, 2, 0, -1, -1}));
 
-    // Each value is compared with the last kept one, not with a dropped
-    // one; the marker value is reserved.
-    double f[] = {0, 5e-11, 1e-10, 1};
+    // Values are compared with the last kept one, not a dropped one; the marker is reserved.
+    double f[] = {0, 5e-11, 1e-10, 1}, chain[] = {0, 0.6, 1.2, 1.8}, reserved[] = {1, 2, 1e100};
     ASSERT_EQ(mathFilterDblArray(4, f, 1e-10), 3);
     EXPECT_EQ(Dbls(f, f + 3), (Dbls{0, 1e-10, 1}));
-    double chain[] = {0, 0.6, 1.2, 1.8};
     EXPECT_EQ(mathFilterDblArray(4, chain, 1.0), 2);
     EXPECT_EQ(chain[1], 1.2);
-    double reserved[] = {1, 2, 1e100};
     EXPECT_EQ(mathFilterDblArray(3, reserved, 1e-10), 2);
     EXPECT_EQ(mathFilterDblArray(0, reserved, 1e-10), 1);
 

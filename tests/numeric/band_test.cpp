@@ -9,9 +9,8 @@ namespace {
 
 using Vec = std::vector<double>;
 
-// A diagonally dominant band system in the solver's layout and its dense
-// form: band rows carry unknowns i-1 ... i+k-2, the last k rows the end
-// block.
+// A diagonally dominant band system in the solver's layout and dense: band
+// rows carry unknowns i-1 ... i+k-2, the last k rows the end block.
 struct BandSystem {
     int n, k;
     Vec band;  // n x 4
@@ -98,8 +97,7 @@ TEST(BandSolver, CurveAndSurfaceSolversMatchDenseSolution)
 
 TEST(BandSolver, SingularAndRefusedSystemsReturnZero)
 {
-    // Zero leading coefficient in row 0; a singular end block (two equal
-    // end rows).
+    // Zero leading coefficient in row 0; two equal rows in the end block.
     BandSystem s(6, 4), t(6, 4);
     s.band[0] = 0.0;
     std::copy(&t.band[4 * 4], &t.band[5 * 4], &t.band[5 * 4]);
@@ -107,8 +105,7 @@ TEST(BandSolver, SingularAndRefusedSystemsReturnZero)
     EXPECT_EQ(mathSolCurvBandMatx(6, 4, s.band.data(), B.data(), X.data()), 0);
     EXPECT_EQ(mathSolCurvBandMatx4D(6, 4, t.band.data(), B.data(), X.data()), 0);
 
-    // An end block larger than the fixed storage, or a system smaller than
-    // its end block: refused without touching the arrays.
+    // End block beyond the fixed storage, or larger than the system: refused, arrays untouched.
     Vec A5(5 * 4, 1.0), B5(5 * 4, 1.0), X5(5 * 4, 2.0);
     EXPECT_EQ(mathSolCurvBandMatx4D(5, 5, A5.data(), B5.data(), X5.data()), 0);
     EXPECT_EQ(mathSolCurvBandMatx4D(3, 4, A5.data(), B5.data(), X5.data()), 0);

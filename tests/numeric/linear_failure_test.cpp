@@ -11,9 +11,7 @@ TEST(LinearAllocationFailure, EveryScratchArrayFailsCleanly)
     ArrayAllocationFailureGuard guard;
     const int live = liveArrays;
 
-    const double regular[4] = {2, 1, 1, 3};
-    const double singular[4] = {1, 1, 1, 1};
-    const double b[2] = {3, 5};
+    const double regular[4] = {2, 1, 1, 3}, singular[4] = {1, 1, 1, 1}, b[2] = {3, 5};
     double x[2] = {-7, -7};
 
     // The copy of the matrix: nothing is written.
@@ -21,8 +19,7 @@ TEST(LinearAllocationFailure, EveryScratchArrayFailsCleanly)
     EXPECT_EQ(mathSolLineEqua(2, regular, b, x), -1);
     EXPECT_EQ(x[0], -7.0);
 
-    // The permutation of the elimination: the pseudo-inverse takes over and
-    // still solves the regular system.
+    // The permutation of the elimination: the pseudo-inverse still solves it.
     failNthArrayAllocation(2);
     ASSERT_EQ(mathSolLineEqua(2, regular, b, x), 1);
     EXPECT_NEAR(x[0], 0.8, 1e-14);

@@ -45,8 +45,7 @@ void expectPseudoInverse(const Matrix &A, const Matrix &X, int rows, int cols)
 
 TEST(MatrixKernel, ProductTransposeCopyAndEmptyDimensions)
 {
-    const Matrix A = {1, 2, 3, 4, 5, 6}; // 2 x 3
-    const Matrix B = {1, 0, 0, 1, 1, 1}; // 3 x 2
+    const Matrix A = {1, 2, 3, 4, 5, 6}, B = {1, 0, 0, 1, 1, 1}; // 2 x 3 and 3 x 2
     expectNear(multiply(A, B, 2, 3, 2), {4, 5, 10, 11}, 0.0);
     Matrix At(6), dst(6);
     mathMatxTrans(2, 3, A.data(), At.data());
@@ -85,16 +84,13 @@ TEST(PseudoInverse, ZeroAndRankDeficientMatrices)
 
 TEST(InverseByRowOperations, PivotsOnFirstUsableRow)
 {
-    Matrix A = {0, 2, 1, 1, 1, 0, 2, 0, 3};
-    const Matrix original = A;
-    Matrix inv(9), I(9);
+    const Matrix original = {0, 2, 1, 1, 1, 0, 2, 0, 3};
+    Matrix A = original, inv(9), I(9);
     ASSERT_EQ(mathMatxInvsByET(3, A.data(), inv.data()), 1);
     mathUnitMatx(3, I.data());
     expectNear(multiply(original, inv, 3, 3, 3), I, 1e-14);
-    // A ends in echelon form.
-    EXPECT_EQ(A[3], 0.0);
-    EXPECT_EQ(A[6], 0.0);
-    EXPECT_EQ(A[7], 0.0);
+    for (int i : {3, 6, 7}) // A ends in echelon form
+        EXPECT_EQ(A[i], 0.0) << "at index " << i;
 
     Matrix zeroColumn = {1, 0, 2, 3, 0, 4, 5, 0, 6};
     EXPECT_EQ(mathMatxInvsByET(3, zeroColumn.data(), inv.data()), 0);
@@ -108,8 +104,7 @@ TEST(GaussEliminate, CompletePivotingAndAbsoluteSingularityTest)
     expectNear(b, {5, 3}, 0.0);
     EXPECT_EQ(mathGaussEliminate(singular.data(), b, 2), 0);
 
-    // Regular, but every element is below the absolute pivot threshold; a
-    // scale of 1e-9 is still well above it.
+    // Regular, but below the absolute pivot threshold; 1e-9 is well above it.
     Matrix tiny = {1e-17, 0, 0, 1e-17}, tiny1 = {1e-17}, small = {1e-9, 0, 0, 2e-9};
     double bt[2] = {1, 1}, b1 = 1, bs[2] = {1e-9, 1e-9};
     EXPECT_EQ(mathGaussEliminate(tiny.data(), bt, 2), 0);
@@ -118,8 +113,7 @@ TEST(GaussEliminate, CompletePivotingAndAbsoluteSingularityTest)
     EXPECT_NEAR(bs[0], 1.0, 1e-12);
 
     // Column exchanges are undone on the solution.
-    const Matrix A = {1, 2, 3, 4, 2, 1, 9, 1, 0, 5, 1, 2, 7, 1, 1, 1};
-    const Matrix x = {1, -2, 0.5, 3};
+    const Matrix A = {1, 2, 3, 4, 2, 1, 9, 1, 0, 5, 1, 2, 7, 1, 1, 1}, x = {1, -2, 0.5, 3};
     Matrix rhs = multiply(A, x, 4, 4, 1), work = A;
     ASSERT_EQ(mathGaussEliminate(work.data(), rhs.data(), 4), 1);
     expectNear(rhs, x, 1e-13);
@@ -127,8 +121,7 @@ TEST(GaussEliminate, CompletePivotingAndAbsoluteSingularityTest)
 
 TEST(SolLineEqua, SingularSystemsFallBackToMinimumNorm)
 {
-    // x + y = 2 twice, and the inconsistent x + y = 1, x + y = 3: both
-    // give (1, 1), and A and b stay as they were.
+    // x + y = 2 twice, or the inconsistent 1 and 3: (1, 1), A and b kept.
     const Matrix A = {1, 1, 1, 1};
     for (const Matrix &b : {Matrix{2, 2}, Matrix{1, 3}}) {
         const Matrix b0 = b;
@@ -139,12 +132,11 @@ TEST(SolLineEqua, SingularSystemsFallBackToMinimumNorm)
     }
     EXPECT_EQ(A, Matrix(4, 1.0));
 
-    // Tiny but regular: the pivot test and the column test of the
-    // pseudo-inverse are both absolute, so the matrix counts as zero.
-    const Matrix tiny = {1e-17, 0, 0, 2e-17};
-    const double bt[2] = {1e-17, 1e-17};
+    // Tiny but regular: both the pivot and the pseudo-inverse's column test
+    // are absolute, so the matrix counts as zero.
+    const Matrix tiny = {1e-17, 0, 0, 2e-17}, bt = {1e-17, 1e-17};
     double x[2] = {5, 5};
-    ASSERT_EQ(mathSolLineEqua(2, tiny.data(), bt, x), 1);
+    ASSERT_EQ(mathSolLineEqua(2, tiny.data(), bt.data(), x), 1);
     expectNear(x, {0, 0}, 0.0);
 }
 
@@ -166,9 +158,8 @@ TEST(SmallSystems, CramerRulesAreStrictAndLeaveOutputsOnFailure)
 
 TEST(SmallSystems, HomogeneousTwoByTwo)
 {
-    // {a, b, c, d, result, v}. Dependent rows give the unit solution
-    // perpendicular to the longer row; independent rows keep the candidate,
-    // taken from the second row on a tie of lengths.
+    // {a, b, c, d, result, v}: dependent rows give the unit normal of the
+    // longer row; independent ones keep it, from the second row on a tie.
     const double cases[][7] = {{0, 0, 0, 0, 100, 0, 0},
                                {1, 2, 2, 4, 1, -4 / std::sqrt(20.0), 2 / std::sqrt(20.0)},
                                {1, 0, 0, 1, 0, -1, 0},
@@ -252,11 +243,10 @@ TEST(LeastSquares, ScalarPairAndClosestPointsOfLines)
     const double Q1[3] = {1, 0, 0}, Q2[3] = {5, 2, 0};
     ASSERT_EQ(mathSolLeastSquareLin(Q1, a, Q2, a, t), 1);
     expectNear(t, {2, -2}, 0.0);
-    // Huge, nearly parallel directions: the normal is rounding noise and
+    // Huge, nearly parallel directions: the normal is rounding noise, and
     // only the second denominator vanishes, after t0 was written.
-    const double h1[3] = {-3.0000000000000001e+157, -2e+157, 2e+157};
+    const double h1[3] = {-3.0000000000000001e+157, -2e+157, 2e+157}, R1[3] = {1, 2, 3};
     const double h2[3] = {-2.9999999999999999e-41, -2e-41, 2e-41};
-    const double R1[3] = {1, 2, 3};
     double th[2] = {9, 9};
     EXPECT_EQ(mathSolLeastSquareLin(R1, h1, zero, h2, th), 0);
     EXPECT_NE(th[0], 9.0);

@@ -27,9 +27,8 @@ double wrongSlope(double) { return 2.0; } // each Newton step halves x
 
 TEST(PolyQuadratic, CountsOrdersAndDegenerateForms)
 {
-    // {a, b, c, count, x[0], x[1]}. Two roots come larger magnitude first,
-    // following the sign of b; otherwise both entries hold the one root or,
-    // with no real root, the vertex abscissa.
+    // {a, b, c, count, x}: two roots larger magnitude first (sign of b); else
+    // x holds the one root twice, or with no real root the vertex abscissa.
     const double cases[][6] = {
         {1, -2, 1, 1, 1, 1},         {1, -3, 2, 2, 2, 1},  {1, 3, 2, 2, -2, -1},
         {-1, 0, 1, 2, -1, 1},        {1, -4, 5, 0, 2, 2},  {0, 2, -4, 1, 2, 2},
@@ -56,8 +55,7 @@ TEST(PolyCubic, RootOrderQuirksAndFallbacks)
     ASSERT_EQ(mathSolTriaEqua(c2, 1e-9, x), 3);
     expectValues(x, {-2, 1, 1}, 1e-12);
 
-    // One real root, through the cube-root exponent 0.33333333333333: x^3 = 8
-    // gives slightly less than 2.
+    // One real root, via the cube-root exponent 0.33333333333333: just under 2.
     const double c3[4] = {1, 0, 0, -8};
     ASSERT_EQ(mathSolTriaEqua(c3, 1e-9, x), 1);
     EXPECT_DOUBLE_EQ(x[0], std::pow(8.0, 0.33333333333333));
@@ -82,8 +80,8 @@ TEST(PolyInterval, CandidatesEndsAndMerging)
     ASSERT_EQ(mathSolUniNEqua(2, p3, 0, 1, 1e-9, r), 2);
     expectValues(r, {0, 1}, 0.0);
 
-    // x^3 - 1e-6 x has three roots where it stays below 1e-6: the first pair
-    // keeps its lower root, then the last pair its upper root.
+    // x^3 - 1e-6 x stays below tol around its 3 roots: merged, the first pair
+    // keeps its lower root, then the last pair its upper one.
     const double p4[4] = {1, 0, -1e-6, 0};
     ASSERT_EQ(mathSolUniNEqua(3, p4, -1, 1, 1e-6, r), 1);
     EXPECT_NEAR(r[0], 1e-3, 1e-15);
@@ -105,8 +103,8 @@ TEST(PolyRational, RootsNearRootsAndPoles)
     ASSERT_EQ(mathSolRatiEqua(2, num, den, 0, 1, 1e-9, r), 1);
     EXPECT_NEAR(r[0], 0.5, 1e-12);
 
-    // ((x - 0.5)^2 + 5e-7) / 1000 never vanishes but dips to 5e-10: found
-    // by the minimiser between the roots of N - tol D.
+    // ((x - 0.5)^2 + 5e-7) / 1000 dips to 5e-10 without vanishing: the
+    // minimiser finds it between the roots of N - tol D.
     const double dip[3] = {1, -1, 0.25 + 5e-7}, thousand[3] = {0, 0, 1000};
     ASSERT_EQ(mathSolRatiEqua(2, dip, thousand, 0, 1, 1e-9, r), 1);
     EXPECT_NEAR(r[0], 0.5, 1e-8);
@@ -144,8 +142,7 @@ TEST(PolyNewton, ConvergesStopsOnFlatSlopeAndGivesUp)
 TEST(PolyAngle, CosSinEquation)
 {
     double t[4];
-    // cos t (1 + sin t / 2) = 0: both ends of the tan(t/2) range, nothing
-    // from the other.
+    // cos t (1 + sin t / 2) = 0: both ends of the tan(t/2) range, nothing else.
     ASSERT_EQ(mathSolAngleByCCSS(1, 0.5, 0, 1e-10, t), 2);
     expectValues(t, {pi / 2, 3 * pi / 2}, 1e-12);
 
@@ -185,8 +182,8 @@ TEST(PolyArithmetic, EvaluationProductsDerivativesIntegrals)
     mathPolyMult(-1, 2, a, a, r);
     expectValues(r, {0, 0, 99}, 0.0);
 
-    // Constant first: 1 + x + x^2 + x^3. Separate output: first derivative
-    // whatever k; in place: the true k-th derivative.
+    // 1 + x + x^2 + x^3 (constant first): separate output gives the first
+    // derivative whatever k, in place the true k-th derivative.
     const double c[4] = {1, 1, 1, 1};
     double d[4] = {0, 0, 0, 0}, e[4] = {1, 1, 1, 1};
     mathPolyDeri(2, 3, c, d);

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <initializer_list>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -43,18 +43,6 @@ std::vector<double> quartic(const std::vector<double> &roots)
     return std::vector<double>(x, x + (k <= 4 ? k : 0));
 }
 
-// Roots through the companion matrix, real parts only (all roots real).
-std::vector<double> companion(const std::vector<double> &roots)
-{
-    std::vector<double> c = fromRoots(roots);
-    std::reverse(c.begin(), c.end());
-    const int n = static_cast<int>(roots.size());
-    std::vector<double> wr(n), wi(n);
-    int m = -1;
-    EXPECT_EQ(mathSlvequN(c.data(), n, wr.data(), wi.data(), &m, 1e-15, 60), 1);
-    return wr;
-}
-
 } // namespace
 
 TEST(PolyQuartic, FactorPairsAndDegenerateForms)
@@ -70,17 +58,15 @@ TEST(PolyQuartic, FactorPairsAndDegenerateForms)
     expectRoots({x[0], x[1]}, {1, 3}, 1e-12);
     expectRoots(quartic({1, 1, 2, 3}), {1, 2, 3}, 1e-7); // a double root counts once
 
-    // x^4 + 5x^2 + 4: the resolvent's largest root gives R = 0, and the
-    // method gives up (no real roots anyway).
+    // x^4 + 5x^2 + 4: the resolvent's largest root gives R = 0; it gives up.
     const double flatSplit[5] = {1, 0, 5, 0, 4};
     EXPECT_EQ(mathSolQuarEqua(flatSplit, 1e-9, x), 0);
     // A triple root makes the resolvent a pure cube with NaN roots: no split.
     EXPECT_EQ(mathSolQuarEqua(fromRoots({1, 1, 1, -3}).data(), 1e-9, x), 0);
     EXPECT_EQ(mathSolQuarEqua(fromRoots({2, 2, 2, 2}).data(), 1e-9, x), 0);
 
-    // x^4 - x^2 - 2 = (x^2 - 2)(x^2 + 1) needs the R = 0 split, but rounding
-    // in the resolvent leaves R near 5e-8: four spurious roots near
-    // +-sqrt(1/2) instead of +-sqrt(2).
+    // x^4 - x^2 - 2 = (x^2 - 2)(x^2 + 1) needs the R = 0 split, but rounding leaves
+    // R near 5e-8: four spurious roots near +-sqrt(1/2) instead of +-sqrt(2).
     const double nearSplit[5] = {1, 0, -1, 0, -2};
     ASSERT_EQ(mathSolQuarEqua(nearSplit, 1e-9, x), 4);
     for (int i = 0; i < 4; ++i)
@@ -193,16 +179,21 @@ TEST(PolyCompanion, DegreeReductionAndAccuracy)
     EXPECT_EQ(mathSlvequN(k, 1, wr, wi, &m, 1e-15, 60), 1);
     EXPECT_EQ(m, 0);
 
-    // x^4 - 1: the companion matrix is a cyclic permutation, on which the
-    // plain shifts stall.
+    // x^4 - 1: the companion is a cyclic permutation, on which plain shifts stall.
     const double unit[5] = {-1, 0, 0, 0, 1};
     ASSERT_EQ(mathSlvequN(unit, 4, wr, wi, &m, 1e-15, 60), 1);
     for (int i = 0; i < 4; ++i)
         EXPECT_NEAR(std::hypot(wr[i], wi[i]), 1.0, 1e-13);
     EXPECT_EQ(std::count(wi, wi + 4, 0.0), 2);
 
-    expectRoots(companion({1, 2, 3, 4, 5, 6, 7, 8}), {1, 2, 3, 4, 5, 6, 7, 8}, 1e-10);
-    expectRoots(companion({1e-4, 2e-4, 1e4, 2e4}), {1e-4, 2e-4, 1e4, 2e4}, 1e-12);
+    // Many roots, and widely scaled ones (coefficients go lowest degree first).
+    for (const auto &set : {std::make_pair(std::vector<double>{1, 2, 3, 4, 5, 6, 7, 8}, 1e-10),
+                            std::make_pair(std::vector<double>{1e-4, 2e-4, 1e4, 2e4}, 1e-12)}) {
+        std::vector<double> p = fromRoots(set.first), re(set.first.size()), im(set.first.size());
+        std::reverse(p.begin(), p.end());
+        ASSERT_EQ(mathSlvequN(p.data(), int(re.size()), re.data(), im.data(), &m, 1e-15, 60), 1);
+        expectRoots(re, set.first, set.second);
+    }
 }
 
 TEST(PolyCompanion, HessenbergEigenvalues)
