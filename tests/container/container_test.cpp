@@ -58,8 +58,7 @@ Ids idsOf(const Node *head)
 
 TEST(TwoWayChain, JoinInsertUnlinkReverseAndRelease)
 {
-    Item *a = makeChain({1, 2});
-    Item *b = makeChain({3, 4});
+    Item *a = makeChain({1, 2}), *b = makeChain({3, 4});
     EXPECT_EQ(mathInsBDChnsAtHead(nullptr, b), b);
     EXPECT_EQ(mathInsBDChnsAtHead(a, nullptr), a);
     EXPECT_EQ(mathInsItemInBDChns(nullptr, a), a);
