@@ -2,29 +2,17 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+#include "geometry/checks.hpp"
 
-void expectPoint2(const double p[2], double x, double y)
+TEST(Line2D, SideDistanceProjectionAndDirections)
 {
-    EXPECT_NEAR(p[0], x, 1e-12);
-    EXPECT_NEAR(p[1], y, 1e-12);
-}
+    const double o[2] = {0.0, 0.0}, e[2] = {2.0, 0.0};
+    EXPECT_EQ(mathChkPntLin2D(P2{1.0, 1.0}, o, e, 0.001), 3);
+    EXPECT_EQ(mathChkPntLin2D(P2{1.0, -1.0}, o, e, 0.001), 4);
+    EXPECT_EQ(mathChkPntLin2D(P2{5.0, 0.0005}, o, e, 0.001), 2);
+    EXPECT_EQ(mathChkPntLin2D(P2{1.0, 0.25}, o, e, 0.25), 3); // exactly at the tolerance is not on the line
+    EXPECT_EQ(mathChkPntLin2D(P2{1.0, 1.0}, o, o, 0.001), 800);
 
-} // namespace
-
-TEST(LineSide2D, CodesAndStrictTolerance)
-{
-    const double a[2] = {0.0, 0.0}, b[2] = {2.0, 0.0};
-    const double left[2] = {1.0, 1.0}, right[2] = {1.0, -1.0}, on[2] = {5.0, 0.0005}, atTol[2] = {1.0, 0.25};
-    EXPECT_EQ(mathChkPntLin2D(left, a, b, 0.001), 3);
-    EXPECT_EQ(mathChkPntLin2D(right, a, b, 0.001), 4);
-    EXPECT_EQ(mathChkPntLin2D(on, a, b, 0.001), 2);
-    EXPECT_EQ(mathChkPntLin2D(atTol, a, b, 0.25), 3); // exactly at the tolerance is not on the line
-    EXPECT_EQ(mathChkPntLin2D(left, a, a, 0.001), 800);
-}
-
-TEST(Line2D, ShortLinesAndAliasing)
-{
     const double a[2] = {1.0, 1.0}, b[2] = {4.0, 5.0}, p[2] = {-3.0, 4.0};
     const double nearA[2] = {1.0 + 5e-9, 1.0}, tiny[2] = {1.0 + 5e-11, 1.0};
     // Signed and divided by the length; below 1e-8 it falls back to the
@@ -33,16 +21,15 @@ TEST(Line2D, ShortLinesAndAliasing)
     EXPECT_DOUBLE_EQ(mathDistPntLin2DEx(p, a, nearA), 5.0);
 
     // Projection in place of a; a degenerate line gives a.
-    const double above[2] = {0.0, 8.0};
     double q[2] = {1.0, 1.0};
-    EXPECT_EQ(mathPrjPntLin2DEx(above, q, b, q), 1);
-    expectPoint2(q, 4.0, 5.0);
+    EXPECT_EQ(mathPrjPntLin2DEx(P2{0.0, 8.0}, q, b, q), 1);
+    expectNear(q, {4.0, 5.0});
     EXPECT_EQ(mathPrjPntLin2DEx(p, a, a, q), 0);
-    expectPoint2(q, 1.0, 1.0);
+    expectNear(q, {1.0, 1.0});
 
     double n[2];
     EXPECT_EQ(mathGetLinRightDir2D(a, b, n), 1);
-    expectPoint2(n, 0.8, -0.6);
+    expectNear(n, {0.8, -0.6});
     // 5e-9 still gives a normal; 5e-11 does not, and the raw normal stays.
     EXPECT_EQ(mathGetLinLeftDir2D(a, nearA, n), 1);
     EXPECT_DOUBLE_EQ(n[1], 1.0);
@@ -71,17 +58,17 @@ TEST(LineIntersect2D, CrossingParallelCoincident)
     EXPECT_EQ(mathIntLin2D(l1, d2, l2, d1, 1e-6, 0.8000001, x), 2);
     EXPECT_EQ(x[0], 42.0);
     EXPECT_EQ(mathIntLin2D(l1, d2, l2, d1, 1e-6, 0.8, x), 1);
-    expectPoint2(x, 0.0, 0.0);
+    expectNear(x, {0.0, 0.0});
 
     // Same line given by two different points: the mean of the two feet of
     // the midpoint (2, 0) on both lines.
     EXPECT_EQ(mathIntLin2D(l1, d1, l3, d1, 1e-6, 1e-6, x), 4);
-    expectPoint2(x, 2.0, 0.0);
+    expectNear(x, {2.0, 0.0});
 
     // Parallel at twice the distance tolerance: apart, x untouched.
     x[0] = x[1] = 42.0;
     EXPECT_EQ(mathIntLin2D(l1, d1, l4, d1, 0.001, 1e-6, x), 2);
-    expectPoint2(x, 42.0, 42.0);
+    expectNear(x, {42.0, 42.0});
 
     // Two-point form: a degenerate line, then the result over a1.
     double a1[2] = {0.0, 0.0};
@@ -89,5 +76,5 @@ TEST(LineIntersect2D, CrossingParallelCoincident)
     EXPECT_EQ(mathIntLin2DEx(a1, b1, a2, a2, 1e-6, 1e-6, x), 800);
     EXPECT_EQ(x[0], 42.0);
     EXPECT_EQ(mathIntLin2DEx(a1, b1, a2, b2, 1e-6, 1e-6, a1), 1);
-    expectPoint2(a1, 6.0, 0.0);
+    expectNear(a1, {6.0, 0.0});
 }
