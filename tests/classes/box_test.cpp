@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "classes/checks.hpp"
+
 namespace {
 
 Box3D box3(point_3d const& lo, point_3d const& hi)
@@ -13,20 +15,14 @@ Box3D box3(point_3d const& lo, point_3d const& hi)
 
 void expectBox(Box2D const& b, float x0, float y0, float x1, float y1)
 {
-    EXPECT_EQ(b.min.x, x0);
-    EXPECT_EQ(b.min.y, y0);
-    EXPECT_EQ(b.max.x, x1);
-    EXPECT_EQ(b.max.y, y1);
+    expectPt(b.min, x0, y0);
+    expectPt(b.max, x1, y1);
 }
 
 void expectBox(Box3D const& b, point_3d const& lo, point_3d const& hi)
 {
-    EXPECT_EQ(b.min.x, lo.x);
-    EXPECT_EQ(b.min.y, lo.y);
-    EXPECT_EQ(b.min.z, lo.z);
-    EXPECT_EQ(b.max.x, hi.x);
-    EXPECT_EQ(b.max.y, hi.y);
-    EXPECT_EQ(b.max.z, hi.z);
+    expectPt(b.min, lo.x, lo.y, lo.z);
+    expectPt(b.max, hi.x, hi.y, hi.z);
 }
 
 TEST(Box, EmptyBoxAndCorners)
@@ -34,29 +30,21 @@ TEST(Box, EmptyBoxAndCorners)
     Box2D b;
     EXPECT_EQ(b.IsEmpty(), 1);
     EXPECT_EQ(b.GetWidth(), -2.0f);
-    point_2d c2[4];
-    c2[0].Set(9, 9);
+    point_2d c2[4] = {point_2d(9, 9)};
     EXPECT_EQ(b.GetCorner(c2), 0);
     EXPECT_EQ(c2[0].x, 9.0f); // nothing written
-
-    Box2D flat(2, 3, 2, 5); // zero width is not empty
-    EXPECT_EQ(flat.IsEmpty(), 0);
+    EXPECT_EQ(Box2D(2, 3, 2, 5).IsEmpty(), 0); // zero width is not empty
     ASSERT_EQ(Box2D(0, 0, 1, 2).GetCorner(c2), 1);
-    EXPECT_EQ(c2[1].x, 1.0f);
-    EXPECT_EQ(c2[1].y, 0.0f);
-    EXPECT_EQ(c2[3].x, 0.0f);
-    EXPECT_EQ(c2[3].y, 2.0f);
+    expectPt(c2[1], 1, 0);
+    expectPt(c2[3], 0, 2);
 
     Box3D cube(point_2d(0, 0), point_2d(1, 2));
     cube.max.z = 3;
     point_3d c3[8];
     ASSERT_EQ(cube.GetCorner(c3), 1);
-    EXPECT_EQ(c3[2].x, 1.0f); // (xmax, ymax, zmin)
-    EXPECT_EQ(c3[2].y, 2.0f);
-    EXPECT_EQ(c3[2].z, 0.0f);
-    EXPECT_EQ(c3[4].x, 0.0f); // top face starts again at (xmin, ymin)
-    EXPECT_EQ(c3[4].z, 3.0f);
-    EXPECT_EQ(c3[7].y, 2.0f);
+    expectPt(c3[2], 1, 2, 0); // (xmax, ymax, zmin)
+    expectPt(c3[4], 0, 0, 3); // the top face starts again at (xmin, ymin)
+    expectPt(c3[7], 0, 2, 3);
     EXPECT_EQ(Box3D().GetCorner(c3), 0);
     EXPECT_EQ(b.CheckInter(point_3d(), point_3d(), 0.0f), 1);
     EXPECT_EQ(Box3D().CheckInter(point_3d(), point_3d(), 0.0f), 1);
@@ -91,24 +79,25 @@ TEST(Box, DefinitionSortsButConstructorsDoNot)
 
 TEST(Box, UnionRulesDifferBetweenClasses)
 {
+    // No empty handling in the planar class: the empty box's corners join in.
     const Box2D b2(5, 5, 6, 6);
-    Box2D e2;
-    e2 += b2; // no empty handling in the planar class
-    expectBox(e2, 1, 1, 6, 6);
-    expectBox(Box2D() + b2, 1, 1, 6, 6);
-    Box2D u2;
+    Box2D e2, u2;
+    e2 += b2;
     u2.Union(b2);
+    expectBox(e2, 1, 1, 6, 6);
     expectBox(u2, 1, 1, 6, 6);
+    expectBox(Box2D() + b2, 1, 1, 6, 6);
 
-    const Box3D b3 = box3(point_3d(5, 5, 5), point_3d(6, 6, 6));
-    Box3D e3;
+    // The spatial operators skip an empty operand; Union does not.
+    const point_3d lo(5, 5, 5), hi(6, 6, 6);
+    const Box3D b3 = box3(lo, hi);
+    Box3D e3, u3;
     e3 += b3;
-    expectBox(e3, point_3d(5, 5, 5), point_3d(6, 6, 6));
-    expectBox(Box3D() + b3, point_3d(5, 5, 5), point_3d(6, 6, 6));
-    expectBox(b3 + Box3D(), point_3d(5, 5, 5), point_3d(6, 6, 6));
-    Box3D u3;
     u3.Union(b3);
-    expectBox(u3, point_3d(1, 1, 1), point_3d(6, 6, 6));
+    expectBox(e3, lo, hi);
+    expectBox(Box3D() + b3, lo, hi);
+    expectBox(b3 + Box3D(), lo, hi);
+    expectBox(u3, point_3d(1, 1, 1), hi);
 
     // AddPt is the way to grow from empty in both classes.
     Box2D p2;
@@ -130,9 +119,8 @@ TEST(Box, UnionRulesDifferBetweenClasses)
 
 TEST(Box, PointTestsAreHalfOpenAndAsymmetric)
 {
-    Box2D single;
-    point_2d p(3, 4);
-    single.AddPt(p);
+    const Box2D single(3, 4, 3, 4);
+    const point_2d p(3, 4);
     EXPECT_EQ(single.Contains(p), 0);
     EXPECT_EQ(single.IsIn(p), 0);
     EXPECT_EQ(single.IsIn(p, 0.0f), 0); // upper y exclusive
@@ -143,14 +131,11 @@ TEST(Box, PointTestsAreHalfOpenAndAsymmetric)
     EXPECT_EQ(b.IsIn(point_2d(1, 5), 0.0f), 0);
     EXPECT_EQ(b.IsIn(point_2d(-0.5f, 5.4f), 0.5f), 1);
 
-    double dp[2] = {3.0, 4.0};
-    EXPECT_EQ(b.IsIn2D(dp, 0.0), 1);
-    dp[0] = 1.0;
-    dp[1] = 5.0;
-    EXPECT_EQ(b.IsIn2D(dp, 0.0), 0);
     // The double test does not round the point to float first.
-    dp[1] = 5.0 + 1e-12;
-    EXPECT_EQ(b.IsIn2D(dp, 1e-11), 1);
+    double in[2] = {3.0, 4.0}, top[2] = {1.0, 5.0}, above[2] = {1.0, 5.0 + 1e-12};
+    EXPECT_EQ(b.IsIn2D(in, 0.0), 1);
+    EXPECT_EQ(b.IsIn2D(top, 0.0), 0);
+    EXPECT_EQ(b.IsIn2D(above, 1e-11), 1);
 
     const Box3D c = box3(point_3d(0, 0, 0), point_3d(1, 1, 1));
     EXPECT_EQ(c.IsIn(point_3d(1, 0.5f, 0.5f), 0.0f), 1);
@@ -159,22 +144,20 @@ TEST(Box, PointTestsAreHalfOpenAndAsymmetric)
     EXPECT_EQ(c.Contains(point_3d(0, 0, 0)), 1);
     EXPECT_EQ(c.IsIn(point_3d(0.5f, 0.5f, 1)), 0);
     EXPECT_EQ(c.IsIn(point_2d(1, 0.5f), 0.0f), 1);
-    EXPECT_EQ(c.IsIn2D(dp, 0.0), 0);
+    EXPECT_EQ(c.IsIn2D(above, 0.0), 0);
 }
 
 TEST(Box, OverlapTests)
 {
-    const Box2D a(0, 0, 1, 1);
-    const Box2D touching(1, 0, 2, 1);
+    const Box2D a(0, 0, 1, 1), touching(1, 0, 2, 1), gap(1.05f, 0, 2, 1);
     EXPECT_EQ(a.IsIntersect(touching), 0);
     EXPECT_EQ(a.CanIntersect(touching), 1);
-    const Box2D gap(1.05f, 0, 2, 1);
+    EXPECT_EQ(a.IsIntersect(Box2D(0.5f, 0.5f, 2, 2)), 1);
     EXPECT_EQ(a.CanIntersect(gap), 0);
     EXPECT_EQ(a.CanIntersect(gap, 0.1f), 1);
     EXPECT_EQ(a.CanIntersect(gap, 0.01f), 0);
     // A gap of exactly tol still counts.
     EXPECT_EQ(a.CanIntersect(Box2D(1.5f, 0, 2, 1), 0.5f), 1);
-    EXPECT_EQ(a.IsIntersect(Box2D(0.5f, 0.5f, 2, 2)), 1);
 
     // Against a Box3D only x and y count.
     const Box3D high = box3(point_3d(1.05f, 0, 50), point_3d(2, 1, 60));
@@ -182,8 +165,8 @@ TEST(Box, OverlapTests)
     EXPECT_EQ(Box3D(a).CanIntersect(high, 0.1f), 0);
     EXPECT_EQ(high.CanIntersect(a, 0.1f), 1);
 
-    const Box3D cube = box3(point_3d(0, 0, 0), point_3d(1, 1, 1));
-    const Box3D above = box3(point_3d(0, 0, 1), point_3d(1, 1, 2));
+    const Box3D cube = box3(point_3d(0, 0, 0), point_3d(1, 1, 1)),
+                above = box3(point_3d(0, 0, 1), point_3d(1, 1, 2));
     EXPECT_EQ(cube.IsIntersect(above), 0);
     EXPECT_EQ(cube.CanIntersect(above), 1);
     EXPECT_EQ(cube.CanInclude(cube), 1);
