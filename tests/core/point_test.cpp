@@ -8,7 +8,7 @@ TEST(Points, InitCopyAndCombine)
 {
     double p2[2] = {4.0, 5.0};
     EXPECT_EQ(mathInitPnt2D(p2), 0);
-    EXPECT_EQ(p2[0], 0.0);
+    expectNear(p2, {0.0, 0.0}, 0.0);
     double p3[3] = {1.0, 2.0, 3.0};
     const double src2[2] = {7.0, 8.0};
     mathCpyPnt2DTo3D(src2, p3);
@@ -20,8 +20,7 @@ TEST(Points, InitCopyAndCombine)
     expectNear(p, {6.5, 9.0, 11.5});
 
     // The weights lead for the four-coordinate form.
-    const double a4[4] = {1.0, 0.0, 0.0, 1.0};
-    const double b4[4] = {0.0, 2.0, 0.0, 3.0};
+    const double a4[4] = {1.0, 0.0, 0.0, 1.0}, b4[4] = {0.0, 2.0, 0.0, 3.0};
     double m4[4];
     EXPECT_EQ(mathMixP4D(2.0, 1.0, a4, b4, m4), m4);
     expectNear(m4, {2.0, 2.0, 0.0, 5.0});
@@ -29,15 +28,13 @@ TEST(Points, InitCopyAndCombine)
 
 TEST(Points, Distances)
 {
-    const double p[3] = {1.0, 2.0, 3.0};
-    const double q[3] = {4.0, 6.0, 3.0};
+    const double p[3] = {1.0, 2.0, 3.0}, q[3] = {4.0, 6.0, 3.0};
     EXPECT_EQ(mathDist(p, q), 5.0);
     EXPECT_EQ(mathDistXD(0, p, q), 0.0);
     EXPECT_EQ(mathDistXD(-1, p, q), 0.0);
     EXPECT_EQ(mathDistXD(1, p, q), 3.0);
 
-    const double h1[4] = {2.0, 0.0, 0.0, 2.0};
-    const double h2[4] = {0.0, 0.0, 0.0, 1.0};
+    const double h1[4] = {2.0, 0.0, 0.0, 2.0}, h2[4] = {0.0, 0.0, 0.0, 1.0};
     const double hNeg[4] = {2.0, 0.0, 0.0, -2.0};
     EXPECT_EQ(mathDist3H(h1, h2), 1.0);
     // The weight test is signed: a negative weight gives 0.
@@ -68,21 +65,17 @@ TEST(Points, HomogeneousToCartesian)
 
 TEST(Points, CartesianTransformations)
 {
-    const double c[2] = {1.0, 1.0};
-    const double p2[2] = {2.0, 1.0};
+    const double c[2] = {1.0, 1.0}, p2[2] = {2.0, 1.0};
     double r2[2];
     mathRotPnt2D(c, kHalfPi, p2, r2);
     expectNear(r2, {1.0, 2.0});
 
-    const double d[3] = {0.0, 0.0, 1.0};
-    const double origin[3] = {0.0, 0.0, 0.0};
+    const double d[3] = {0.0, 0.0, 1.0}, origin[3] = {0.0, 0.0, 0.0};
     double p[3] = {1.0, 0.0, 5.0};
     mathRotPnt(d, origin, kHalfPi, p, p);
     expectNear(p, {0.0, 1.0, 5.0});
     // An axis off the origin along x: right-handed about +x.
-    const double dx[3] = {1.0, 0.0, 0.0};
-    const double q[3] = {7.0, 1.0, 0.0};
-    const double p1[3] = {2.0, 2.0, 0.0};
+    const double dx[3] = {1.0, 0.0, 0.0}, q[3] = {7.0, 1.0, 0.0}, p1[3] = {2.0, 2.0, 0.0};
     double r[3];
     mathRotPnt(dx, q, kPi, p1, r);
     expectNear(r, {2.0, 0.0, 0.0});
@@ -100,8 +93,7 @@ TEST(Points, CartesianTransformations)
 
 TEST(Points, HomogeneousTransformationsKeepTheWeight)
 {
-    const double v[3] = {1.0, 0.0, 0.0};
-    const double p[4] = {2.0, 0.0, 0.0, 2.0};
+    const double v[3] = {1.0, 0.0, 0.0}, p[4] = {2.0, 0.0, 0.0, 2.0};
     double out[4];
     mathMovePnt4H(v, p, out);
     expectNear(out, {4.0, 0.0, 0.0, 2.0});
@@ -109,20 +101,16 @@ TEST(Points, HomogeneousTransformationsKeepTheWeight)
     mathMovePnt4H(v, infinite, out);
     expectNear(out, {3.0, 0.0, 0.0, 0.0});
 
-    const double d[3] = {0.0, 0.0, 1.0};
-    const double origin[3] = {0.0, 0.0, 0.0};
+    const double d[3] = {0.0, 0.0, 1.0}, origin[3] = {0.0, 0.0, 0.0};
     double r[4] = {2.0, 0.0, 10.0, 2.0};
     mathRotPnt4H(d, origin, kHalfPi, r, r);
     expectNear(r, {0.0, 2.0, 10.0, 2.0});
 
-    const double planePoint[3] = {0.0, 0.0, 1.0};
-    const double m[4] = {2.0, 2.0, 0.0, 2.0};
+    const double planePoint[3] = {0.0, 0.0, 1.0}, m[4] = {2.0, 2.0, 0.0, 2.0};
     mathMirPnt4H(planePoint, d, m, out);
     expectNear(out, {2.0, 2.0, 4.0, 2.0});
 
-    const double c[3] = {1.0, 1.0, 1.0};
-    const double f[3] = {2.0, 2.0, 2.0};
-    const double s[4] = {1.0, 0.0, 0.0, 0.0};
+    const double c[3] = {1.0, 1.0, 1.0}, f[3] = {2.0, 2.0, 2.0}, s[4] = {1.0, 0.0, 0.0, 0.0};
     mathScalePnt4H(c, f, s, out);
     expectNear(out, {1.0, -1.0, -1.0, 0.0});
     const double sw[4] = {4.0, 2.0, 2.0, 2.0};

@@ -73,8 +73,7 @@ TEST(Random, StepsOfOneTenThousandthBelowOne)
 
 TEST(Swaps, ExchangeExactlyTheGivenCount)
 {
-    double a[3] = {1.0, 2.0, 3.0};
-    double b[3] = {4.0, 5.0, 6.0};
+    double a[3] = {1.0, 2.0, 3.0}, b[3] = {4.0, 5.0, 6.0};
     mathSwapDblN(a, b, 0);
     mathSwapDblN(a, b, -2);
     expectNear(a, {1.0, 2.0, 3.0}, 0.0);

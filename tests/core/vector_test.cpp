@@ -8,14 +8,12 @@
 
 TEST(Normalise, StrictToleranceZeroesShortVectors)
 {
-    double v[3] = {1e-11, 0.0, 0.0};
+    double v[3] = {1e-11, 0.0, 0.0}, w[3] = {1e-11, 0.0, 0.0}, u[3] = {0.0, 3.0, 4.0};
     EXPECT_EQ(mathUniVec(v, 1e-10), 0);
     expectNear(v, {0.0, 0.0, 0.0});
     // A length equal to the tolerance normalises.
-    double w[3] = {1e-11, 0.0, 0.0};
     EXPECT_EQ(mathUniVec(w, 1e-11), 1);
     EXPECT_EQ(w[0], 1.0);
-    double u[3] = {0.0, 3.0, 4.0};
     EXPECT_EQ(mathUniVec(u, 5.0), 1);
     expectNear(u, {0.0, 0.6, 0.8});
 
