@@ -128,15 +128,14 @@ TEST(Point3D, LineDistancesAndSegmentTest)
     EXPECT_EQ(point_3d(1.5f, 1.5f, 1.5f).IsOnSeg(a, b), 0);
     EXPECT_EQ(point_3d(0.5f, 0.5f, 0.51f).IsOnSeg(a, b), 0);
     // A flat axis (y = z = 0 on both ends) still admits points on it.
-    const point_3d c(1, 0, 0);
-    EXPECT_EQ(point_3d(0.5f, 0, 0).IsOnSeg(a, c), 1);
+    EXPECT_EQ(point_3d(0.5f, 0, 0).IsOnSeg(a, point_3d(1, 0, 0)), 1);
 
     // The widened box is open: at exactly the tolerance off the axis the
     // point is rejected although its detour (about 0.414) would pass.
     ToleranceGuard guard;
     gmSetAbsDistTol(0.5);
-    EXPECT_EQ(point_3d(0.5f, 0.5f, 0).IsOnSeg(a, c), 0);
-    EXPECT_EQ(point_3d(0.5f, 0.49f, 0).IsOnSeg(a, c), 1);
+    EXPECT_EQ(point_3d(0.5f, 0.5f, 0).IsOnSeg(a, point_3d(1, 0, 0)), 0);
+    EXPECT_EQ(point_3d(0.5f, 0.49f, 0).IsOnSeg(a, point_3d(1, 0, 0)), 1);
 }
 
 TEST(Point4D, HomogeneousFieldsAndDivisionGuards)
