@@ -11,7 +11,7 @@ TEST(Line3D, DegenerateAndStrictCases)
     const double a[3] = {1.0, 1.0, 1.0}, b[3] = {1.0, 1.0, 5.0}, p[3] = {4.0, 5.0, -7.0};
     EXPECT_NEAR(mathDistPntLinEx(p, a, b), 5.0, 1e-12);
     EXPECT_NEAR(mathDistPntLinEx(p, a, a), std::sqrt(89.0), 1e-12);
-    EXPECT_EQ(mathChkPntLin(P3{1.25, 1.0, 3.0}, a, b, 0.25), 0);
+    EXPECT_EQ(mathChkPntLin(P3{1.25, 1.0, 3.0}, a, b, 0.25), 0); // at the tolerance: off the line
     EXPECT_EQ(mathChkPntLin(P3{1.25, 1.0, 3.0}, a, b, 0.2500001), 1);
 
     // A length equal to the tolerance passes; the unit direction then serves
@@ -64,31 +64,29 @@ TEST(LineIntersect3D, CrossingSkewParallel)
 {
     const double l1[3] = {0.0, 0.0, 0.0}, d1[3] = {1.0, 0.0, 0.0};
     const double l2[3] = {3.0, -2.0, 1.0}, d2[3] = {0.0, 1.0, 0.0}, l3[3] = {4.0, 0.0, 0.001};
-    double c1[3], c2[3];
+    double c[6]; // c1, then c2
     // Skew at distance 1: the feet of the common perpendicular.
-    EXPECT_EQ(mathIntLin(l1, d1, l2, d2, 0.002, 1e-6, c1, c2), 5);
-    expectNear(c1, {3.0, 0.0, 0.0});
-    expectNear(c2, {3.0, 0.0, 1.0});
-    EXPECT_EQ(mathIntLin(l1, d1, l2, d2, 1.0000001, 1e-6, c1, c2), 1);
+    EXPECT_EQ(mathIntLin(l1, d1, l2, d2, 0.002, 1e-6, c, c + 3), 5);
+    expectNear(c, {3.0, 0.0, 0.0, 3.0, 0.0, 1.0});
+    EXPECT_EQ(mathIntLin(l1, d1, l2, d2, 1.0000001, 1e-6, c, c + 3), 1);
 
     // Parallel lines: both feet of the midpoint are written either way.
-    EXPECT_EQ(mathIntLin(l1, d1, l3, d1, 0.002, 1e-6, c1, c2), 4);
-    expectNear(c1, {2.0, 0.0, 0.0});
-    expectNear(c2, {2.0, 0.0, 0.001});
-    EXPECT_EQ(mathIntLin(l1, d1, l3, d1, 0.001, 1e-6, c1, c2), 2);
+    EXPECT_EQ(mathIntLin(l1, d1, l3, d1, 0.002, 1e-6, c, c + 3), 4);
+    expectNear(c, {2.0, 0.0, 0.0, 2.0, 0.0, 0.001});
+    EXPECT_EQ(mathIntLin(l1, d1, l3, d1, 0.001, 1e-6, c, c + 3), 2);
 
     // With paraTol out of the way, the closest-point denominators (|d1 x d2|
     // in size) are guarded at 1e-100: below it 800 with nothing written.
-    EXPECT_EQ(mathIntLin(l1, d1, l1, P3{1.0, 1e-99, 0.0}, 1e-6, 1e-300, c1, c2), 1);
-    c1[0] = c2[0] = 42.0;
-    EXPECT_EQ(mathIntLin(l1, d1, l1, P3{1.0, 1e-101, 0.0}, 1e-6, 1e-300, c1, c2), 800);
-    EXPECT_EQ(c1[0], 42.0);
-    EXPECT_EQ(c2[0], 42.0);
+    EXPECT_EQ(mathIntLin(l1, d1, l1, P3{1.0, 1e-99, 0.0}, 1e-6, 1e-300, c, c + 3), 1);
+    c[0] = c[3] = 42.0;
+    EXPECT_EQ(mathIntLin(l1, d1, l1, P3{1.0, 1e-101, 0.0}, 1e-6, 1e-300, c, c + 3), 800);
+    EXPECT_EQ(c[0], 42.0);
+    EXPECT_EQ(c[3], 42.0);
 
     // Two-point form: degenerate line, and outputs over the inputs.
     double a1[3] = {0.0, 0.0, 0.0}, b1[3] = {5.0, 0.0, 0.0};
     const double a2[3] = {3.0, -2.0, 0.0}, b2[3] = {3.0, 2.0, 0.0};
-    EXPECT_EQ(mathIntLinEx(a1, b1, a2, a2, 1e-6, 1e-6, c1, c2), 800);
+    EXPECT_EQ(mathIntLinEx(a1, b1, a2, a2, 1e-6, 1e-6, c, c + 3), 800);
     EXPECT_EQ(mathIntLinEx(a1, b1, a2, b2, 1e-6, 1e-6, a1, b1), 1);
     expectNear(a1, {3.0, 0.0, 0.0});
     expectNear(b1, {3.0, 0.0, 0.0});
@@ -98,21 +96,20 @@ TEST(LineIntersect3D, RawDirectionsWithParameters)
 {
     const double a1[3] = {0.0, 0.0, 0.0}, b1[3] = {4.0, 0.0, 0.0};
     const double a2[3] = {2.0, -1.0, 0.5}, b2[3] = {2.0, 3.0, 0.5};
-    double c1[3], c2[3], t1 = 0.0, t2 = 0.0, dist = 0.0;
-    EXPECT_EQ(mathIntLine(a1, b1, a2, b2, 0.1, 1e-6, c1, c2, &t1, &t2, &dist), 5);
+    double c[6], t1 = 0.0, t2 = 0.0, dist = 0.0;
+    EXPECT_EQ(mathIntLine(a1, b1, a2, b2, 0.1, 1e-6, c, c + 3, &t1, &t2, &dist), 5);
     EXPECT_DOUBLE_EQ(t1, 0.5);
     EXPECT_DOUBLE_EQ(t2, 0.25);
     EXPECT_DOUBLE_EQ(dist, 0.5);
-    expectNear(c2, {2.0, 0.0, 0.5});
-    EXPECT_EQ(mathIntLine(a1, b1, a2, b2, 0.6, 1e-6, c1, c2, &t1, &t2, &dist), 1);
+    expectNear(c + 3, {2.0, 0.0, 0.5});
+    EXPECT_EQ(mathIntLine(a1, b1, a2, b2, 0.6, 1e-6, c, c + 3, &t1, &t2, &dist), 1);
 
     // Parallel lines of length 2: the raw directions overshoot the feet,
     // and the parameters stay untouched.
     const double a3[3] = {1.0, 1.0, 0.0}, b3[3] = {3.0, 1.0, 0.0}, b4[3] = {2.0, 0.0, 0.0};
     t1 = t2 = 42.0;
-    EXPECT_EQ(mathIntLine(a1, b4, a3, b3, 0.01, 1e-6, c1, c2, &t1, &t2, &dist), 2);
-    expectNear(c1, {2.0, 0.0, 0.0});
-    expectNear(c2, {-1.0, 1.0, 0.0});
+    EXPECT_EQ(mathIntLine(a1, b4, a3, b3, 0.01, 1e-6, c, c + 3, &t1, &t2, &dist), 2);
+    expectNear(c, {2.0, 0.0, 0.0, -1.0, 1.0, 0.0});
     EXPECT_DOUBLE_EQ(dist, std::sqrt(10.0));
     EXPECT_EQ(t1, 42.0);
     EXPECT_EQ(t2, 42.0);
@@ -120,11 +117,11 @@ TEST(LineIntersect3D, RawDirectionsWithParameters)
     // The raw cross product |(4,0,0) x (0,4,0)| = 16 meets paraTol 16 (not
     // parallel) but not 16.0001.
     const double a5[3] = {2.0, -2.0, 0.0}, b5[3] = {2.0, 2.0, 0.0};
-    EXPECT_EQ(mathIntLine(a1, b1, a5, b5, 0.01, 16.0, c1, c2, &t1, &t2, &dist), 1);
-    EXPECT_EQ(mathIntLine(a1, b1, a5, b5, 0.01, 16.0001, c1, c2, &t1, &t2, &dist), 2);
+    EXPECT_EQ(mathIntLine(a1, b1, a5, b5, 0.01, 16.0, c, c + 3, &t1, &t2, &dist), 1);
+    EXPECT_EQ(mathIntLine(a1, b1, a5, b5, 0.01, 16.0001, c, c + 3, &t1, &t2, &dist), 2);
 
     dist = 42.0;
-    EXPECT_EQ(mathIntLine(a1, a1, a2, b2, 0.01, 1e-6, c1, c2, &t1, &t2, &dist), 800);
+    EXPECT_EQ(mathIntLine(a1, a1, a2, b2, 0.01, 1e-6, c, c + 3, &t1, &t2, &dist), 800);
     EXPECT_EQ(dist, 42.0);
 }
 

@@ -41,33 +41,32 @@ TEST(Plane, SegmentIntersectionCodes)
     const double tol = 0.01;
     const double a[3] = {0.0, 0.0, -1.0}, b[3] = {0.0, 0.0, 3.0};
     const double c[3] = {1.0, 0.0, 0.005}, e[3] = {2.0, 0.0, -0.005};
-    double x1[3], x2[3], t1 = -1.0, t2 = -1.0;
+    double x[6], t1 = -1.0, t2 = -1.0; // x1, then x2
 
     // Both ends within tol: the whole segment, parameters 0 and 1.
-    EXPECT_EQ(mathIntSegmPln(c, e, kOrigin, kUp, tol, x1, x2, &t1, &t2), 4);
-    expectNear(x1, {1.0, 0.0, 0.005});
-    expectNear(x2, {2.0, 0.0, -0.005});
+    EXPECT_EQ(mathIntSegmPln(c, e, kOrigin, kUp, tol, x, x + 3, &t1, &t2), 4);
+    expectNear(x, {1.0, 0.0, 0.005, 2.0, 0.0, -0.005});
     EXPECT_EQ(t1, 0.0);
     EXPECT_EQ(t2, 1.0);
 
     // One end within tol: that end, whichever side the other end is on.
     t2 = 42.0;
-    EXPECT_EQ(mathIntSegmPln(b, c, kOrigin, kUp, tol, x1, x2, &t1, &t2), 1);
-    expectNear(x1, {1.0, 0.0, 0.005});
+    EXPECT_EQ(mathIntSegmPln(b, c, kOrigin, kUp, tol, x, x + 3, &t1, &t2), 1);
+    expectNear(x, {1.0, 0.0, 0.005});
     EXPECT_EQ(t1, 1.0);
-    EXPECT_EQ(mathIntSegmPln(e, a, kOrigin, kUp, tol, x1, x2, &t1, &t2), 1);
-    expectNear(x1, {2.0, 0.0, -0.005});
+    EXPECT_EQ(mathIntSegmPln(e, a, kOrigin, kUp, tol, x, x + 3, &t1, &t2), 1);
+    expectNear(x, {2.0, 0.0, -0.005});
     EXPECT_EQ(t1, 0.0);
     EXPECT_EQ(t2, 42.0);
 
     // An end exactly at tol is not on the plane; both above: no contact.
-    x1[0] = 42.0;
-    EXPECT_EQ(mathIntSegmPln(P3{0.0, 0.0, 0.25}, b, kOrigin, kUp, 0.25, x1, x2, &t1, &t2), 0);
-    EXPECT_EQ(x1[0], 42.0);
+    x[0] = 42.0;
+    EXPECT_EQ(mathIntSegmPln(P3{0.0, 0.0, 0.25}, b, kOrigin, kUp, 0.25, x, x + 3, &t1, &t2), 0);
+    EXPECT_EQ(x[0], 42.0);
 
     // The crossing point may replace an end point.
     double aa[3] = {0.0, 0.0, -1.0};
-    EXPECT_EQ(mathIntSegmPln(aa, b, kOrigin, kUp, tol, aa, x2, &t1, &t2), 1);
+    EXPECT_EQ(mathIntSegmPln(aa, b, kOrigin, kUp, tol, aa, x + 3, &t1, &t2), 1);
     expectNear(aa, {0.0, 0.0, 0.0});
     EXPECT_DOUBLE_EQ(t1, 0.25);
 }
