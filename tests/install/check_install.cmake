@@ -1,8 +1,9 @@
 # Installs the built library into a scratch prefix, then configures, builds
 # and runs a consumer project that finds it with find_package(korvex), and
-# compiles the same program with the flags pkg-config gives for korvex.pc.
+# compiles the same program with the flags pkg-config gives for korvex.pc,
+# and runs the installed korvex-calc.
 #
-# Inputs: KORVEX_BUILD_DIR, CONSUMER_SOURCE, WORK_DIR, GENERATOR, LIBDIR.
+# Inputs: KORVEX_BUILD_DIR, CONSUMER_SOURCE, WORK_DIR, GENERATOR, LIBDIR, CHECK_TOOL.
 
 function(run_checked)
   execute_process(COMMAND ${ARGN} RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
@@ -39,4 +40,14 @@ run_checked(${CXX_COMPILER} -std=c++17 ${CONSUMER_SOURCE}/main.cpp ${pc_flags}
 run_checked(${WORK_DIR}/pc_consumer)
 if(NOT last_output MATCHES "korvex consumer ok")
   message(FATAL_ERROR "pkg-config consumer printed: ${last_output}")
+endif()
+
+# The installed calculator tool runs from its own prefix (it finds the
+# library through its RPATH).
+if(CHECK_TOOL)
+  run_checked(${prefix}/bin/korvex-calc "2^3^2")
+  string(STRIP "${last_output}" tool_output)
+  if(NOT tool_output STREQUAL "512")
+    message(FATAL_ERROR "installed korvex-calc printed: ${last_output}")
+  endif()
 endif()
