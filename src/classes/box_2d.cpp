@@ -143,14 +143,8 @@ void Box2D::AddPt(point_2d& p)
         max = p;
         return;
     }
-    if (min.x > p.x)
-        min.x = p.x;
-    if (p.x > max.x)
-        max.x = p.x;
-    if (min.y > p.y)
-        min.y = p.y;
-    if (p.y > max.y)
-        max.y = p.y;
+    stretchAxis(min.x, max.x, p.x);
+    stretchAxis(min.y, max.y, p.y);
 }
 
 void Box2D::AddPt(nd_point_2d& p)

@@ -121,18 +121,9 @@ void Box3D::AddPt(point_3d& p)
         max = p;
         return;
     }
-    if (min.x > p.x)
-        min.x = p.x;
-    if (p.x > max.x)
-        max.x = p.x;
-    if (min.y > p.y)
-        min.y = p.y;
-    if (p.y > max.y)
-        max.y = p.y;
-    if (min.z > p.z)
-        min.z = p.z;
-    if (p.z > max.z)
-        max.z = p.z;
+    stretchAxis(min.x, max.x, p.x);
+    stretchAxis(min.y, max.y, p.y);
+    stretchAxis(min.z, max.z, p.z);
 }
 
 // ---------------------------------------------------------------------------

@@ -19,6 +19,15 @@ const double kUnitMinLength = 1e-9;
 // Fixed on purpose: it does not follow the parallelism tolerance.
 const double kSameDirectionCos = 0.9999;
 
+// Widens the interval [lo, hi] of one box axis so that it holds v.
+inline void stretchAxis(float& lo, float& hi, float v)
+{
+    if (lo > v)
+        lo = v;
+    if (v > hi)
+        hi = v;
+}
+
 // Anticlockwise angle of the planar vector (x, y), measured from the axis at
 // angle `axis` (0 for the x axis, pi/2 for the y axis), in [0, 2*pi].
 // Angles within tol of 0 snap to 0 and within tol of 2*pi snap to 2*pi,
